@@ -1,0 +1,1 @@
+// Exists so that the precompiled gtkmm headers have a target to belong to.
