@@ -1,0 +1,16 @@
+#pragma once
+
+#include <glib-object.h>
+#include <memory>
+
+namespace quorvel {
+
+struct GObjectUnref {
+  void operator()(gpointer object) const { g_object_unref(object); }
+};
+
+/// Owns one reference to an object of a C library that has no C++ binding.
+template <class Object>
+using GObjectPointer = std::unique_ptr<Object, GObjectUnref>;
+
+} // namespace quorvel
