@@ -1,0 +1,29 @@
+#include "DemoService.h"
+
+#include <giomm/init.h>
+#include <glibmm/main.h>
+#include <iostream>
+
+namespace {
+
+int complain(const char* sentence, int status) {
+  std::cerr << "quorvel-demo-service: " << sentence << "\n";
+  return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  using namespace quorvel::demo;
+  Gio::init();
+  try {
+    const auto options = parseServiceOptions(argc, argv);
+    const DemoService service(options);
+    std::cout << "listening on https://" << options.address << ":" << options.port << std::endl;
+    Glib::MainLoop::create()->run();
+  } catch (const UsageError& error) {
+    return complain(error.what(), 2);
+  } catch (const std::exception& error) {
+    return complain(error.what(), 1);
+  }
+}
