@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ActivityItem.h"
+#include "AgentProfile.h"
+#include "ApprovalItem.h"
+#include "ConnectorItem.h"
+#include "PricingPlan.h"
+#include "RequestItem.h"
+
+/// A small business's day: what every new workspace starts from.
+///
+/// Each list is built on its first use, from whichever thread, and lives until the program ends.
+namespace quorvel::SampleData {
+
+const RecordList<AgentProfile>& agents();
+const RecordList<RequestItem>& requests();
+const RecordList<ApprovalItem>& approvals();
+const RecordList<ConnectorItem>& connectors();
+const RecordList<ActivityItem>& activity(); ///< newest first
+const RecordList<PricingPlan>& plans();
+
+} // namespace quorvel::SampleData
