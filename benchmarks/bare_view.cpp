@@ -7,6 +7,7 @@ int main(int argc, char** argv) {
     g_printerr("usage: bare_view ADDRESS\n");
     return 2;
   }
+  g_set_prgname("bare_view");
   gtk_init();
   const auto view = webkit_web_view_new();
   webkit_web_view_load_uri(WEBKIT_WEB_VIEW(view), argv[1]);
