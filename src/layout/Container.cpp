@@ -1,0 +1,51 @@
+#include "Container.h"
+
+namespace quorvel {
+
+// A managed container is disposed of before its destructor runs, any other one in it.
+Container::Container() {
+  signal_destroy().connect(sigc::mem_fun(*this, &Container::releaseChildren));
+}
+
+Container::~Container() {
+  if (gobj())
+    releaseChildren();
+}
+
+void Container::releaseChildren() {
+  while (auto* child = get_first_child())
+    child->unparent();
+}
+
+void Container::append(Gtk::Widget& child) {
+  child.set_parent(*this);
+}
+
+std::vector<Gtk::Widget*> Container::visibleChildren() const {
+  std::vector<Gtk::Widget*> children;
+  for (auto* child = const_cast<Container*>(this)->get_first_child(); child;
+       child = child->get_next_sibling())
+    if (child->should_layout())
+      children.push_back(child);
+  return children;
+}
+
+Gtk::SizeRequestMode Container::get_request_mode_vfunc() const {
+  return Gtk::SizeRequestMode::HEIGHT_FOR_WIDTH;
+}
+
+Request widthRequest(const Gtk::Widget& widget) {
+  Request request;
+  int ignored;
+  widget.measure(Gtk::Orientation::HORIZONTAL, -1, request.minimum, request.natural, ignored, ignored);
+  return request;
+}
+
+Request heightRequest(const Gtk::Widget& widget, int width) {
+  Request request;
+  int ignored;
+  widget.measure(Gtk::Orientation::VERTICAL, width, request.minimum, request.natural, ignored, ignored);
+  return request;
+}
+
+} // namespace quorvel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <gtkmm/widget.h>
+#include <vector>
+
+namespace quorvel {
+
+/// The common ground of the widgets that arrange children in a way of their own: heights follow from widths,
+/// and the children, managed widgets, are released when the container goes.
+class Container : public Gtk::Widget {
+ public:
+  ~Container() override;
+
+  /// Takes over a managed widget as the last child.
+  void append(Gtk::Widget& child);
+
+  /// The children that take part in the layout, in order.
+  std::vector<Gtk::Widget*> visibleChildren() const;
+
+ protected:
+  Container();
+  Gtk::SizeRequestMode get_request_mode_vfunc() const override;
+
+ private:
+  void releaseChildren();
+};
+
+/// What a widget asks for in one direction, in points.
+struct Request {
+  int minimum = 0, natural = 0;
+};
+Request widthRequest(const Gtk::Widget& widget);
+/// The height of the widget when it is given this width (-1: when it may choose).
+Request heightRequest(const Gtk::Widget& widget, int width);
+
+} // namespace quorvel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Container.h"
+
+#include <optional>
+
+namespace quorvel {
+
+/// Gives its one child an exact width, an exact height or both, in points, whatever the child would like.
+///
+/// In a direction that is not fixed the frame is as large as its child. The child is a managed widget that
+/// the frame takes over; it fills the frame as far as its own alignment lets it.
+class Frame : public Container {
+ public:
+  struct Size {
+    std::optional<int> width = {}, height = {};
+  };
+  Frame(Size size, Gtk::Widget& child);
+
+ protected:
+  void measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
+                     int& minimumBaseline, int& naturalBaseline) const override;
+  void size_allocate_vfunc(int width, int height, int baseline) override;
+
+ private:
+  Size size_;
+  Gtk::Widget& child_;
+};
+
+/// A frame whose child stands in its middle.
+Frame* framed(Frame::Size size, Gtk::Widget* child);
+
+} // namespace quorvel
