@@ -1,0 +1,85 @@
+#include "StyleSheet.h"
+
+#include "QuorvelBrand.h"
+#include "Typography.h"
+
+#include <array>
+#include <giomm/resource.h>
+#include <gtkmm/cssprovider.h>
+#include <gtkmm/icontheme.h>
+#include <gtkmm/settings.h>
+#include <gtkmm/stylecontext.h>
+#include <sstream>
+
+extern "C" GResource* quorvel_get_resource();
+
+namespace quorvel {
+namespace {
+
+struct Token {
+  std::string_view name;
+  Color color;
+};
+constexpr auto gradient = QuorvelBrand::windowGradient();
+constexpr std::array tokens{
+    Token{"background", QuorvelBrand::background},
+    Token{"paper", QuorvelBrand::paper},
+    Token{"panel", QuorvelBrand::panel},
+    Token{"panelRaised", QuorvelBrand::panelRaised},
+    Token{"control", QuorvelBrand::control},
+    Token{"ink", QuorvelBrand::ink},
+    Token{"secondaryInk", QuorvelBrand::secondaryInk},
+    Token{"muted", QuorvelBrand::muted},
+    Token{"green", QuorvelBrand::green},
+    Token{"blue", QuorvelBrand::blue},
+    Token{"clay", QuorvelBrand::clay},
+    Token{"gold", QuorvelBrand::gold},
+    Token{"line", QuorvelBrand::line},
+    Token{"strongLine", QuorvelBrand::strongLine},
+    Token{"gradientStart", gradient[0]},
+    Token{"gradientMiddle", gradient[1]},
+    Token{"gradientEnd", gradient[2]},
+};
+
+/// Percentages keep the exact fractions, which whole numbers up to 255 would round.
+std::string cssColor(const Color& color) {
+  std::ostringstream css;
+  css.imbue(std::locale::classic());
+  css << "rgba(" << color.red * 100 << "%, " << color.green * 100 << "%, " << color.blue * 100 << "%, "
+      << color.alpha << ')';
+  return css.str();
+}
+
+std::string paletteRules() {
+  std::ostringstream rules;
+  for (const auto& token : tokens)
+    rules << "@define-color " << token.name << ' ' << cssColor(token.color) << ";\n";
+  for (const auto tone : allCases<AccentTone>())
+    rules << ".tone-" << rawValue(tone) << " { color: " << cssColor(color(tone)) << "; }\n";
+  return rules.str();
+}
+
+std::string handWrittenRules() {
+  g_resources_register(quorvel_get_resource());
+  const auto bytes = Gio::Resource::lookup_data_global("/com/quorvel/Desktop/quorvel.css");
+  gsize size = 0;
+  const auto* data = static_cast<const char*>(bytes->get_data(size));
+  return {data, size};
+}
+
+} // namespace
+
+std::string styleSheet() {
+  return paletteRules() + typographyRules() + handWrittenRules();
+}
+
+void installStyle() {
+  const auto display = Gdk::Display::get_default();
+  Gtk::Settings::get_for_display(display)->property_gtk_application_prefer_dark_theme() = true;
+  const auto provider = Gtk::CssProvider::create();
+  provider->load_from_data(styleSheet());
+  Gtk::StyleContext::add_provider_for_display(display, provider, GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+  Gtk::IconTheme::get_for_display(display)->add_resource_path("/com/quorvel/Desktop/icons");
+}
+
+} // namespace quorvel

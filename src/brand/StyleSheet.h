@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace quorvel {
+
+/// The whole style sheet: the palette's colours and the type scale, generated from their tables, followed by
+/// the rules of `quorvel.css`.
+std::string styleSheet();
+
+/// Gives the default display the dark appearance, the style sheet and the project's symbols. Call it once,
+/// when the toolkit has been initialised and before the first window.
+void installStyle();
+
+} // namespace quorvel

@@ -1,0 +1,52 @@
+#include "buttons.h"
+
+#include "stacks.h"
+#include "symbol.h"
+
+#include <array>
+#include <string>
+
+namespace quorvel {
+namespace {
+
+constexpr std::array<const char*, 4> styleClasses{"plain", "bordered", "prominent", "link"};
+
+} // namespace
+
+Gtk::Button* button(Gtk::Widget* label, ButtonStyle style, Action action) {
+  auto* result = Gtk::make_managed<Gtk::Button>();
+  result->set_child(*label);
+  result->add_css_class("quorvel-button");
+  result->add_css_class(styleClasses[static_cast<std::size_t>(style)]);
+  result->signal_clicked().connect(std::move(action));
+  return result;
+}
+
+Gtk::Button* button(const Glib::ustring& title, ButtonStyle style, Action action) {
+  return button(Gtk::make_managed<Gtk::Label>(title), style, std::move(action));
+}
+
+Gtk::Button* button(const Glib::ustring& title, std::string_view symbolName, ButtonStyle style,
+                    Action action) {
+  auto* label =
+      hstack(6, {symbol(symbolName, {.style = TextStyle::callout}), Gtk::make_managed<Gtk::Label>(title)});
+  label->set_halign(Gtk::Align::CENTER);
+  auto* result = button(label, style, std::move(action));
+  setAccessibleName(*result, title);
+  return result;
+}
+
+Gtk::Button* symbolButton(std::string_view symbolName, const Glib::ustring& help, ButtonStyle style,
+                          Action action) {
+  auto* result = button(symbol(symbolName, {.style = TextStyle::callout}), style, std::move(action));
+  result->set_tooltip_text(help);
+  setAccessibleName(*result, help);
+  return result;
+}
+
+void setAccessibleName(Gtk::Widget& widget, const Glib::ustring& name) {
+  gtk_accessible_update_property(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_PROPERTY_LABEL, name.c_str(),
+                                 -1);
+}
+
+} // namespace quorvel

@@ -1,0 +1,110 @@
+#include "UiStage.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace quorvel::testing {
+
+UiStage::UiStage(Gtk::Widget& widget, int width, int height) : widget_(widget) {
+  window_.set_child(ground_);
+  ground_.put(widget_, 0, 0);
+  resize(width, height);
+  window_.present();
+  if (!waitUntil([&] { return widget_.get_mapped() && widget_.get_width() > 0; }))
+    throw std::runtime_error("the widget was never shown");
+}
+
+UiStage::~UiStage() {
+  ground_.remove(widget_);
+  window_.close();
+}
+
+void UiStage::resize(int width, int height) {
+  // A widget in a fixed ground gets its natural size, so the wanted size is asked for.
+  int minimum, natural, ignored;
+  widget_.set_size_request(width, -1);
+  widget_.measure(Gtk::Orientation::VERTICAL, width, minimum, natural, ignored, ignored);
+  widget_.set_size_request(width, height < 0 ? natural : height);
+  window_.set_default_size(width, height < 0 ? natural : height);
+  if (window_.get_mapped())
+    drawFrame(widget_);
+}
+
+Color UiStage::pixel(int x, int y) {
+  drawFrame(widget_);
+  const auto paintable = Gtk::WidgetPaintable::create(window_);
+  const auto snapshot = Gtk::Snapshot::create();
+  paintable->snapshot(snapshot, window_.get_width(), window_.get_height());
+  auto* node = gtk_snapshot_to_node(snapshot->gobj());
+  const auto surface =
+      Cairo::ImageSurface::create(Cairo::Surface::Format::ARGB32, window_.get_width(), window_.get_height());
+  gsk_render_node_draw(node, Cairo::Context::create(surface)->cobj());
+  gsk_render_node_unref(node);
+  surface->flush();
+  double offsetX = 0, offsetY = 0;
+  widget_.translate_coordinates(window_, x, y, offsetX, offsetY);
+  const auto* bgra =
+      surface->get_data() + static_cast<int>(offsetY) * surface->get_stride() + static_cast<int>(offsetX) * 4;
+  return {bgra[2] / 255.0, bgra[1] / 255.0, bgra[0] / 255.0};
+}
+
+bool waitUntil(const std::function<bool()>& condition) {
+  bool isLate = false;
+  const auto deadline = Glib::signal_timeout().connect([&] { return !(isLate = true); }, 5000);
+  const auto context = Glib::MainContext::get_default();
+  while (!condition() && !isLate)
+    context->iteration(true);
+  auto timer = deadline;
+  timer.disconnect();
+  return condition();
+}
+
+void drawFrame(Gtk::Widget& widget) {
+  // Callbacks run before the frame in which they are added is laid out, so the second one has seen a whole
+  // frame.
+  int frames = 0;
+  widget.add_tick_callback([&](const auto&) { return ++frames < 2; });
+  if (!waitUntil([&] { return frames >= 2; }))
+    throw std::runtime_error("no frame was drawn");
+}
+
+Gtk::Label* labelled(Gtk::Widget& root, const Glib::ustring& text) {
+  for (auto* label : all<Gtk::Label>(root))
+    if (label->get_text() == text && label->get_mapped())
+      return label;
+  return nullptr;
+}
+
+std::vector<std::string> texts(Gtk::Widget& root) {
+  std::vector<std::string> result;
+  for (auto* label : all<Gtk::Label>(root))
+    if (label->get_mapped())
+      result.push_back(label->get_text());
+  return result;
+}
+
+Gtk::Button* buttonNamed(Gtk::Widget& root, const Glib::ustring& name) {
+  for (auto* button : all<Gtk::Button>(root)) {
+    const auto labels = all<Gtk::Label>(*button);
+    if (button->get_tooltip_text() == name ||
+        std::ranges::any_of(labels, [&](auto* label) { return label->get_text() == name; }))
+      return button;
+  }
+  return nullptr;
+}
+
+Gdk::Rectangle boundsIn(const Gtk::Widget& ancestor, const Gtk::Widget& widget) {
+  graphene_rect_t bounds;
+  if (!gtk_widget_compute_bounds(const_cast<GtkWidget*>(widget.gobj()),
+                                 const_cast<GtkWidget*>(ancestor.gobj()), &bounds))
+    throw std::runtime_error("the widget is not inside the other");
+  return {static_cast<int>(bounds.origin.x), static_cast<int>(bounds.origin.y),
+          static_cast<int>(bounds.size.width), static_cast<int>(bounds.size.height)};
+}
+
+void click(Gtk::Button& button) {
+  if (button.is_sensitive())
+    gtk_widget_activate(GTK_WIDGET(button.gobj()));
+}
+
+} // namespace quorvel::testing

@@ -1,0 +1,126 @@
+#include "BrandMark.h"
+#include "MetricTile.h"
+#include "QuorvelBrand.h"
+#include "SectionHeader.h"
+#include "StatusPill.h"
+#include "UiStage.h"
+#include "text.h"
+
+#include <gmock/gmock.h>
+
+namespace quorvel {
+namespace {
+
+using namespace quorvel::testing;
+using ::testing::DoubleNear;
+using ::testing::ElementsAre;
+
+TEST(BrandMark, AtItsDefaultSizeHasTheMeasuresOfTheDrawing) {
+  const BrandMark::Geometry mark(36);
+  EXPECT_THAT(mark.cornerRadius, DoubleNear(8.64, 1e-9));
+  EXPECT_THAT(mark.letterSize, DoubleNear(20.16, 1e-9));
+  EXPECT_THAT(mark.letterOffsetY, DoubleNear(1.08, 1e-9));
+  EXPECT_THAT(mark.barWidth, DoubleNear(18, 1e-9));
+  EXPECT_THAT(mark.barHeight, DoubleNear(3, 1e-9)) << "2.7 is raised to the minimum";
+  EXPECT_THAT(mark.barOffsetX, DoubleNear(4.32, 1e-9));
+  EXPECT_THAT(mark.barOffsetY, DoubleNear(4.68, 1e-9));
+  EXPECT_THAT(mark.shadowRadius, DoubleNear(8.64, 1e-9));
+  EXPECT_THAT(mark.shadowOffsetY, DoubleNear(3.6, 1e-9));
+}
+
+TEST(BrandMark, TheBarOfASmallMarkIsThreePointsHighAndOfALargeOneGrows) {
+  EXPECT_THAT(BrandMark::Geometry(20).barHeight, DoubleNear(3, 1e-9));
+  EXPECT_THAT(BrandMark::Geometry(60).barHeight, DoubleNear(4.5, 1e-9));
+}
+
+TEST(BrandMark, IsASquareLightTileOfExactlyItsSize) {
+  auto* mark = Gtk::make_managed<BrandMark>(104);
+  auto* row = hstack(0, {mark, hspacer()});
+  UiStage stage(*row, 300);
+  EXPECT_EQ(mark->get_width(), 104);
+  EXPECT_EQ(mark->get_height(), 104);
+  EXPECT_THAT(stage.pixel(52, 8), IsColor(QuorvelBrand::control));
+}
+
+/// A pill on screen, with the colours that it is drawn in.
+struct DrawnPill {
+  explicit DrawnPill(AccentTone tone, bool isProminent)
+      : pill(*Gtk::make_managed<StatusPill>("Live", tone, isProminent)),
+        stage(*hstack(0, {&pill, hspacer()}), 200) {}
+  Color fill() { return stage.pixel(pill.get_width() / 2, 3); }
+  Gdk::RGBA textColor() { return labelled(pill, "Live")->get_style_context()->get_color(); }
+
+  StatusPill& pill;
+  UiStage stage;
+};
+
+TEST(StatusPill, AProminentInkPillIsAWhiteCapsuleWithNearBlackText) {
+  DrawnPill drawn(AccentTone::ink, true);
+  EXPECT_THAT(drawn.fill(), IsColor(Color::white()));
+  EXPECT_LT(drawn.textColor().get_red(), 0.02);
+}
+
+TEST(StatusPill, APlainInkPillIsAFaintWhiteTintWithWhiteText) {
+  DrawnPill drawn(AccentTone::ink, false);
+  EXPECT_NEAR(drawn.fill().red, 0.147, 0.01) << "white at 0.14 over the background";
+  EXPECT_EQ(drawn.textColor().get_red(), 1.0F);
+}
+
+TEST(StatusPill, PadsItsTitleByNineAndFivePoints) {
+  auto* pill = Gtk::make_managed<StatusPill>("Connected", AccentTone::green);
+  auto* row = hstack(0, {pill, hspacer()});
+  UiStage stage(*row, 300);
+  const auto title = boundsIn(*pill, *labelled(*pill, "Connected"));
+  EXPECT_EQ(title.get_x(), 9);
+  EXPECT_EQ(title.get_y(), 5);
+  EXPECT_EQ(pill->get_width(), title.get_width() + 18);
+  EXPECT_EQ(pill->get_height(), title.get_height() + 10);
+}
+
+TEST(StatusPill, ShowsAnotherStateInPlace) {
+  StatusPill pill("Needs review", AccentTone::gold, true);
+  pill.show("Approved", AccentTone::green);
+  EXPECT_TRUE(pill.has_css_class("tone-green"));
+  EXPECT_FALSE(pill.has_css_class("tone-gold"));
+  EXPECT_FALSE(pill.has_css_class("prominent"));
+}
+
+TEST(SectionHeader, ShowsItsEyebrowInUpperCase) {
+  auto* header = Gtk::make_managed<SectionHeader>("Today at a glance", "Title", "Detail");
+  UiStage stage(*header, 300);
+  EXPECT_THAT(texts(*header), ElementsAre("TODAY AT A GLANCE", "Title", "Detail"));
+}
+
+TEST(SectionHeader, ItsDetailWrapsAndIsNeverCut) {
+  auto* header = Gtk::make_managed<SectionHeader>(
+      "Eyebrow", "Title",
+      "A detail that is much too long for the little width that this window leaves to it.");
+  UiStage stage(*header, 200);
+  auto* detail = all<Gtk::Label>(*header).back();
+  EXPECT_GT(detail->get_layout()->get_line_count(), 1);
+  EXPECT_FALSE(detail->get_layout()->is_ellipsized());
+}
+
+TEST(MetricTile, ShowsItsFourPartsAndANewValueInPlace) {
+  auto* tile = Gtk::make_managed<MetricTile>("Active requests", "3", "Routed or drafting", AccentTone::blue);
+  UiStage stage(*tile, 180);
+  tile->setValue("4");
+  EXPECT_THAT(texts(*tile), ElementsAre("Active requests", "4", "Routed or drafting"));
+  EXPECT_EQ(boundsIn(*tile, *labelled(*tile, "4")).get_x(), 18);
+}
+
+TEST(Typography, TextGrowsWithTheTextSizeOfTheDesktop) {
+  auto* label = text("Connectors", {TextStyle::body});
+  auto* row = hstack(0, {label, hspacer()});
+  UiStage stage(*row, 400);
+  const int before = label->get_width();
+  auto settings = Gtk::Settings::get_default();
+  const int dpi = settings->property_gtk_xft_dpi();
+  settings->property_gtk_xft_dpi() = 96 * 1024 * 3 / 2;
+  drawFrame(*row);
+  EXPECT_NEAR(label->get_width(), before * 1.5, before * 0.1);
+  settings->property_gtk_xft_dpi() = dpi;
+}
+
+} // namespace
+} // namespace quorvel

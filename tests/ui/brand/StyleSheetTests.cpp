@@ -1,0 +1,46 @@
+#include "StyleSheet.h"
+
+#include "UiStage.h"
+#include "symbol.h"
+
+#include <gmock/gmock.h>
+#include <regex>
+#include <set>
+
+namespace quorvel {
+namespace {
+
+TEST(StyleSheet, EveryColourNameItUsesIsDefined) {
+  const std::string css = styleSheet();
+  std::set<std::string> defined, used;
+  const std::regex definition("@define-color (\\w+)"), use("@(\\w+)");
+  for (std::sregex_iterator match(css.begin(), css.end(), definition), end; match != end; ++match)
+    defined.insert((*match)[1]);
+  for (std::sregex_iterator match(css.begin(), css.end(), use), end; match != end; ++match)
+    used.insert((*match)[1]);
+  used.erase("define");
+  used.erase("name");
+  EXPECT_GT(defined.size(), 14U);
+  for (const auto& name : used)
+    EXPECT_TRUE(defined.contains(name)) << '@' << name;
+}
+
+TEST(StyleSheet, IsReadWithoutAComplaint) {
+  const auto provider = Gtk::CssProvider::create();
+  std::vector<std::string> complaints;
+  provider->signal_parsing_error().connect([&](const auto& section, const Glib::Error& error) {
+    complaints.push_back(section->to_string() + error.what());
+  });
+  provider->load_from_data(styleSheet());
+  EXPECT_THAT(complaints, ::testing::IsEmpty());
+}
+
+TEST(Symbols, EverySymbolOfTheScreensIsFound) {
+  const auto theme = Gtk::IconTheme::get_for_display(Gdk::Display::get_default());
+  for (const auto* name :
+       {"message.fill", "safari.fill", "point.3.connected.trianglepath.dotted", "lock.shield"})
+    EXPECT_TRUE(theme->has_icon(std::string(name) + "-symbolic")) << name;
+}
+
+} // namespace
+} // namespace quorvel

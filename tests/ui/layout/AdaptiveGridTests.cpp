@@ -1,0 +1,65 @@
+#include "AdaptiveGrid.h"
+#include "UiStage.h"
+
+#include <gmock/gmock.h>
+
+namespace quorvel {
+namespace {
+
+using namespace quorvel::testing;
+
+Gtk::Widget* cell(AdaptiveGrid& grid, int height = 20) {
+  auto* result = Gtk::make_managed<Gtk::Box>();
+  result->set_size_request(10, height);
+  grid.append(*result);
+  return result;
+}
+
+TEST(AdaptiveGrid, CountsItsColumnsFromTheWidthAlone) {
+  AdaptiveGrid grid(260, 14);
+  EXPECT_EQ(grid.columnCount(260), 1);
+  EXPECT_EQ(grid.columnCount(533), 1);
+  EXPECT_EQ(grid.columnCount(534), 2) << "260 + 14 + 260";
+  EXPECT_EQ(grid.columnCount(807), 2);
+  EXPECT_EQ(grid.columnCount(808), 3);
+}
+
+TEST(AdaptiveGrid, ShowsOneColumnHoweverNarrow) {
+  AdaptiveGrid grid(260, 14);
+  EXPECT_EQ(grid.columnCount(0), 1);
+  EXPECT_EQ(grid.columnCount(100), 1);
+}
+
+TEST(AdaptiveGrid, SharesTheWidthEquallyAndLeavesSpareColumnsEmpty) {
+  auto* grid = Gtk::make_managed<AdaptiveGrid>(100, 10);
+  auto* first = cell(*grid);
+  auto* second = cell(*grid);
+  UiStage stage(*grid, 340);
+  EXPECT_EQ(boundsIn(*grid, *first).get_width(), 106) << "three columns fit, two are filled";
+  EXPECT_EQ(boundsIn(*grid, *second).get_x(), 116);
+}
+
+TEST(AdaptiveGrid, ACellKeepsItsHeightInTheMiddleOfItsRow) {
+  auto* grid = Gtk::make_managed<AdaptiveGrid>(100, 10);
+  auto* low = cell(*grid, 20);
+  auto* high = cell(*grid, 60);
+  auto* next = cell(*grid, 20);
+  UiStage stage(*grid, 210);
+  EXPECT_EQ(boundsIn(*grid, *low).get_y(), 20);
+  EXPECT_EQ(boundsIn(*grid, *low).get_height(), 20);
+  EXPECT_EQ(boundsIn(*grid, *high).get_y(), 0);
+  EXPECT_EQ(boundsIn(*grid, *next).get_y(), 70);
+}
+
+TEST(AdaptiveGrid, FollowsTheWidth) {
+  auto* grid = Gtk::make_managed<AdaptiveGrid>(100, 10);
+  cell(*grid);
+  auto* second = cell(*grid);
+  UiStage stage(*grid, 210);
+  EXPECT_EQ(boundsIn(*grid, *second).get_y(), 0);
+  stage.resize(200);
+  EXPECT_EQ(boundsIn(*grid, *second).get_y(), 30);
+}
+
+} // namespace
+} // namespace quorvel

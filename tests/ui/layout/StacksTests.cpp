@@ -1,0 +1,76 @@
+#include "Frame.h"
+#include "UiStage.h"
+#include "stacks.h"
+
+#include <gmock/gmock.h>
+
+namespace quorvel {
+namespace {
+
+using namespace quorvel::testing;
+
+Gtk::Widget* block(int width, int height) {
+  auto* result = Gtk::make_managed<Gtk::Box>();
+  result->set_size_request(width, height);
+  return result;
+}
+
+TEST(Stacks, ASpacerTakesWhatItsNeighboursLeave) {
+  auto* first = block(30, 10);
+  auto* last = block(40, 10);
+  auto* stack = hstack(12, {first, hspacer(), last});
+  UiStage stage(*stack, 300);
+  EXPECT_EQ(boundsIn(*stack, *first).get_x(), 0);
+  EXPECT_EQ(boundsIn(*stack, *last).get_x(), 260);
+}
+
+TEST(Stacks, ASpacerKeepsItsMinimumWhereThereIsNoRoom) {
+  auto* stack = hstack(10, {block(30, 10), hspacer(24), block(40, 10)});
+  UiStage stage(*stack, 10);
+  EXPECT_EQ(stack->get_width(), 30 + 10 + 24 + 10 + 40);
+}
+
+TEST(Stacks, ALeadingChildKeepsItsWidthAndAStretchedOneGetsItAll) {
+  auto* narrow = block(50, 10);
+  auto* wide = stretched(block(50, 10));
+  auto* stack = vstack(8, {narrow, wide});
+  UiStage stage(*stack, 200);
+  EXPECT_EQ(boundsIn(*stack, *narrow).get_width(), 50);
+  EXPECT_EQ(boundsIn(*stack, *wide).get_width(), 200);
+  EXPECT_EQ(boundsIn(*stack, *wide).get_y(), 18);
+}
+
+TEST(Stacks, ChildrenOfARowStandAtItsAlignment) {
+  auto* top = block(10, 10);
+  auto* stack = hstack(0, {top, block(10, 50)}, VerticalAlignment::top);
+  auto* low = block(10, 10);
+  auto* lowered = hstack(0, {low, block(10, 50)}, VerticalAlignment::bottom);
+  auto* both = vstack(0, {stack, lowered});
+  UiStage stage(*both, 100);
+  EXPECT_EQ(boundsIn(*stack, *top).get_y(), 0);
+  EXPECT_EQ(boundsIn(*lowered, *low).get_y(), 40);
+}
+
+TEST(Frame, KeepsItsWidthWhateverTheChildWouldLike) {
+  auto* label =
+      Gtk::make_managed<Gtk::Label>("A sentence that would rather be on one long line than on several.");
+  label->set_wrap(true);
+  auto* frame = Gtk::make_managed<Frame>(Frame::Size{.width = 120}, *label);
+  auto* stack = hstack(0, {frame, hspacer()});
+  UiStage stage(*stack, 600);
+  EXPECT_EQ(frame->get_width(), 120);
+  EXPECT_GT(frame->get_height(), 30) << "the text wraps inside the frame";
+}
+
+TEST(Frame, CentresASmallerChild) {
+  auto* child = block(10, 10);
+  auto* frame = framed({.width = 42, .height = 42}, child);
+  auto* stack = hstack(0, {frame});
+  UiStage stage(*stack, 100);
+  EXPECT_EQ(frame->get_height(), 42);
+  EXPECT_EQ(boundsIn(*frame, *child).get_x(), 16);
+  EXPECT_EQ(boundsIn(*frame, *child).get_y(), 16);
+}
+
+} // namespace
+} // namespace quorvel
