@@ -28,5 +28,9 @@ Gtk::Button* button(Gtk::Widget* label, ButtonStyle style, Action action);
 
 /// The name that assistive technology reads for a widget.
 void setAccessibleName(Gtk::Widget& widget, const Glib::ustring& name);
+/// What assistive technology may add to the name.
+void setAccessibleDescription(Gtk::Widget& widget, const Glib::ustring& description);
+/// Whether assistive technology calls the widget the chosen one of its group.
+void setAccessibleSelected(Gtk::Widget& widget, bool isSelected);
 
 } // namespace quorvel

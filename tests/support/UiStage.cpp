@@ -102,6 +102,16 @@ Gdk::Rectangle boundsIn(const Gtk::Widget& ancestor, const Gtk::Widget& widget) 
           static_cast<int>(bounds.size.width), static_cast<int>(bounds.size.height)};
 }
 
+bool isAccessiblySelected(Gtk::Widget& widget) {
+  auto* accessible = GTK_ACCESSIBLE(widget.gobj());
+  if (!gtk_test_accessible_has_state(accessible, GTK_ACCESSIBLE_STATE_SELECTED))
+    throw std::runtime_error("the widget tells nobody whether it is selected");
+  char* difference = gtk_test_accessible_check_state(accessible, GTK_ACCESSIBLE_STATE_SELECTED, TRUE);
+  const bool isSelected = difference == nullptr;
+  g_free(difference);
+  return isSelected;
+}
+
 void click(Gtk::Button& button) {
   if (button.is_sensitive())
     gtk_widget_activate(GTK_WIDGET(button.gobj()));

@@ -53,6 +53,8 @@ Gtk::Button* buttonNamed(Gtk::Widget& root, const Glib::ustring& name);
 
 /// Where `widget` is drawn inside `ancestor`, in points.
 Gdk::Rectangle boundsIn(const Gtk::Widget& ancestor, const Gtk::Widget& widget);
+/// Whether assistive technology is told that the widget is selected.
+bool isAccessiblySelected(Gtk::Widget& widget);
 /// What a press of the pointer or of Return does; nothing where the button is disabled.
 void click(Gtk::Button& button);
 
