@@ -1,0 +1,165 @@
+#include "QuorvelBrand.h"
+#include "SettingsView.h"
+#include "SettingsWindow.h"
+#include "UiStage.h"
+
+#include <filesystem>
+#include <fstream>
+
+namespace quorvel {
+namespace {
+
+using namespace quorvel::testing;
+using ::testing::ElementsAre;
+namespace fs = std::filesystem;
+
+struct SettingsViewTest : ::testing::Test {
+  SettingsViewTest() {
+    std::string pattern = (fs::temp_directory_path() / "quorvel-settings-XXXXXX").string();
+    folder = g_mkdtemp(pattern.data());
+    file = folder / "preferences.ini";
+    preferences = std::make_unique<Preferences>(file);
+    view = Gtk::make_managed<SettingsView>(*preferences);
+    stage = std::make_unique<UiStage>(*view, 520);
+  }
+  ~SettingsViewTest() override {
+    stage.reset();
+    fs::remove_all(folder);
+  }
+
+  std::string written() const {
+    std::ifstream stream(file);
+    return {std::istreambuf_iterator<char>(stream), {}};
+  }
+  Gtk::Widget& row(const Glib::ustring& title) { return *labelled(*view, title)->get_parent(); }
+  Gtk::Switch& toggle(const Glib::ustring& title) { return *all<Gtk::Switch>(row(title)).front(); }
+
+  fs::path folder, file;
+  std::unique_ptr<Preferences> preferences;
+  SettingsView* view;
+  std::unique_ptr<UiStage> stage;
+};
+
+const std::vector<std::pair<const char*, PreferenceKey>> toggles{
+    {"Show inspector", PreferenceKey::showInspector},
+    {"Daily command brief", PreferenceKey::dailyBriefEnabled},
+    {"Ad spend changes", PreferenceKey::requireApprovalForSpend},
+    {"Customer-facing messages", PreferenceKey::requireApprovalForCustomerMessages},
+};
+
+TEST_F(SettingsViewTest, TheWorkspaceSectionComesFirstAboveTheApprovalGates) {
+  EXPECT_THAT(texts(*view), ElementsAre("Workspace", "Show inspector", "Daily command brief",
+                                        "Approval gates", "Ad spend changes", "Customer-facing messages"));
+  int lowest = 0;
+  for (const auto& text : texts(*view)) {
+    const int top = boundsIn(*view, *labelled(*view, text)).get_y();
+    EXPECT_GT(top, lowest) << text;
+    lowest = top;
+  }
+}
+
+TEST_F(SettingsViewTest, OnAFreshAccountAllFourSwitchesAreOn) {
+  const auto switches = all<Gtk::Switch>(*view);
+  EXPECT_EQ(switches.size(), 4u);
+  for (auto* each : switches)
+    EXPECT_TRUE(each->get_active());
+  EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(SettingsViewTest, EachSwitchIsWrittenUnderItsKeyAtOnce) {
+  for (const auto& [title, key] : toggles) {
+    toggle(title).set_active(false);
+    EXPECT_FALSE(preferences->isOn(key)) << title;
+    EXPECT_THAT(written(), ::testing::HasSubstr(std::string(rawValue(key)) + "=false\n"));
+  }
+}
+
+TEST_F(SettingsViewTest, SwitchingShowInspectorOffChangesNothingElse) {
+  toggle("Show inspector").set_active(false);
+  drawFrame(*view);
+  EXPECT_EQ(written(), "[Preferences]\nQuorvel.showInspector=false\n");
+  for (const auto& [title, key] : toggles)
+    EXPECT_EQ(toggle(title).get_active(), key != PreferenceKey::showInspector) << title;
+}
+
+TEST_F(SettingsViewTest, ASwitchFollowsAChangeMadeElsewhere) {
+  for (const auto& [title, key] : toggles) {
+    preferences->set(key, false);
+    drawFrame(*view);
+    EXPECT_FALSE(toggle(title).get_active()) << title;
+    preferences->set(key, true);
+    drawFrame(*view);
+    EXPECT_TRUE(toggle(title).get_active()) << title;
+  }
+}
+
+TEST_F(SettingsViewTest, ASwitchFollowsAChangeMadeByAnotherProgram) {
+  std::ofstream(file) << "[Preferences]\nQuorvel.requireApprovalForSpend=false\n";
+  EXPECT_TRUE(waitUntil([&] { return !toggle("Ad spend changes").get_active(); }));
+  fs::remove(file);
+  EXPECT_TRUE(waitUntil([&] { return toggle("Ad spend changes").get_active(); }));
+}
+
+TEST_F(SettingsViewTest, TwoViewsOfTheSamePreferencesAgree) {
+  auto* other = Gtk::make_managed<SettingsView>(*preferences);
+  UiStage otherStage(*other, 520);
+  toggle("Ad spend changes").set_active(false);
+  drawFrame(*other);
+  EXPECT_FALSE(all<Gtk::Switch>(*other)[2]->get_active());
+}
+
+TEST_F(SettingsViewTest, ASwitchIsFlippedByItsActivationAsSpaceAndReturnDo) {
+  auto& inspector = toggle("Show inspector");
+  inspector.grab_focus();
+  EXPECT_TRUE(inspector.is_focus());
+  gtk_widget_activate(GTK_WIDGET(inspector.gobj()));
+  EXPECT_TRUE(waitUntil([&] { return !preferences->isOn(PreferenceKey::showInspector); }));
+  EXPECT_TRUE(inspector.is_focus());
+}
+
+TEST_F(SettingsViewTest, ASwitchIsNamedByItsRowsTitle) {
+  for (const auto& [title, key] : toggles) {
+    char* const otherName = gtk_test_accessible_check_property(GTK_ACCESSIBLE(toggle(title).gobj()),
+                                                               GTK_ACCESSIBLE_PROPERTY_LABEL, title);
+    EXPECT_STREQ(otherName, nullptr);
+    g_free(otherName);
+  }
+}
+
+TEST_F(SettingsViewTest, TheFocusIsShownAroundTheSwitchAloneAndNotAroundItsContainers) {
+  auto& inspector = toggle("Show inspector");
+  inspector.grab_focus();
+  stage->window().set_focus_visible(true);
+  const auto switchBounds = boundsIn(*view, inspector);
+  const int middle = switchBounds.get_y() + switchBounds.get_height() / 2;
+  EXPECT_TRUE(waitUntil([&] {
+    return ::testing::Value(stage->pixel(switchBounds.get_x() - 2, middle), IsColor(QuorvelBrand::blue));
+  })) << "the theme lets the outline grow";
+  EXPECT_THAT(stage->pixel(22, middle), IsColor(QuorvelBrand::background));
+}
+
+TEST_F(SettingsViewTest, TheFormIs520PointsWideWith24PointsOfPadding) {
+  EXPECT_EQ(view->get_width(), 520);
+  EXPECT_EQ(boundsIn(*view, *labelled(*view, "Workspace")).get_y(), 24);
+  for (const auto& [title, key] : toggles) {
+    const auto bounds = boundsIn(*view, row(title));
+    EXPECT_EQ(bounds.get_x(), 24) << title;
+    EXPECT_EQ(bounds.get_width(), 472) << title;
+  }
+  const auto last = boundsIn(*view, row("Customer-facing messages"));
+  EXPECT_EQ(view->get_height() - last.get_y() - last.get_height(), 24);
+}
+
+TEST_F(SettingsViewTest, TheWindowIsAsLargeAsTheFormAndCannotBeResized) {
+  SettingsWindow window(*preferences);
+  window.present();
+  ASSERT_TRUE(waitUntil([&] { return window.get_mapped(); }));
+  drawFrame(window);
+  EXPECT_EQ(window.get_title(), "Settings");
+  EXPECT_FALSE(window.get_resizable());
+  EXPECT_EQ(window.get_child()->get_width(), 520);
+  EXPECT_EQ(window.get_child()->get_height(), view->get_height());
+}
+
+} // namespace
+} // namespace quorvel
