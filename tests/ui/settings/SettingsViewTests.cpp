@@ -34,6 +34,14 @@ struct SettingsViewTest : ::testing::Test {
   Gtk::Widget& row(const Glib::ustring& title) { return *labelled(*view, title)->get_parent(); }
   Gtk::Switch& toggle(const Glib::ustring& title) { return *all<Gtk::Switch>(row(title)).front(); }
 
+  /// A press of the pointer on the row of this title that is let go at this place of the row.
+  void releaseOn(const Glib::ustring& title, double x, double y) {
+    const auto controllers = row(title).observe_controllers();
+    for (guint i = 0; i < controllers->get_n_items(); ++i)
+      if (const auto click = std::dynamic_pointer_cast<Gtk::GestureClick>(controllers->get_object(i)))
+        g_signal_emit_by_name(click->gobj(), "released", 1, x, y);
+  }
+
   fs::path folder, file;
   std::unique_ptr<Preferences> preferences;
   SettingsView* view;
@@ -106,6 +114,20 @@ TEST_F(SettingsViewTest, TwoViewsOfTheSamePreferencesAgree) {
   toggle("Ad spend changes").set_active(false);
   drawFrame(*other);
   EXPECT_FALSE(all<Gtk::Switch>(*other)[2]->get_active());
+}
+
+TEST_F(SettingsViewTest, AClickAnywhereOnARowFlipsItsSwitch) {
+  for (const auto& [title, key] : toggles) {
+    releaseOn(title, 2, 2);
+    EXPECT_FALSE(preferences->isOn(key)) << title;
+    releaseOn(title, 200, 20);
+    EXPECT_TRUE(preferences->isOn(key)) << title;
+  }
+}
+
+TEST_F(SettingsViewTest, APressThatIsLetGoBesideTheRowFlipsNothing) {
+  releaseOn("Show inspector", 200, 200);
+  EXPECT_TRUE(preferences->isOn(PreferenceKey::showInspector));
 }
 
 TEST_F(SettingsViewTest, ASwitchIsFlippedByItsActivationAsSpaceAndReturnDo) {
