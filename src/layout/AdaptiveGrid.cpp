@@ -10,7 +10,14 @@ AdaptiveGrid::AdaptiveGrid(int minimumColumnWidth, int spacing)
 }
 
 int AdaptiveGrid::columnCount(int width) const {
-  return std::max(1, (width + spacing_) / (minimumColumnWidth_ + spacing_));
+  return std::max(1, (width + spacing_) / (leastColumnWidth() + spacing_));
+}
+
+int AdaptiveGrid::leastColumnWidth() const {
+  int least = minimumColumnWidth_;
+  for (const auto* cell : visibleChildren())
+    least = std::max(least, widthRequest(*cell).minimum);
+  return least;
 }
 
 int AdaptiveGrid::columnWidth(int width) const {
@@ -40,13 +47,10 @@ void AdaptiveGrid::measure_vfunc(Gtk::Orientation orientation, int forSize, int&
                                  int& minimumBaseline, int& naturalBaseline) const {
   minimumBaseline = naturalBaseline = -1;
   if (orientation == Gtk::Orientation::HORIZONTAL) {
-    minimum = minimumColumnWidth_;
-    for (const auto* cell : visibleChildren())
-      minimum = std::max(minimum, widthRequest(*cell).minimum);
-    natural = minimum;
+    minimum = natural = leastColumnWidth();
     return;
   }
-  const int width = forSize < 0 ? minimumColumnWidth_ : forSize;
+  const int width = forSize < 0 ? leastColumnWidth() : forSize;
   minimum = natural = forEachRow(width, [](const auto&, int, int) {});
 }
 

@@ -8,8 +8,10 @@ namespace quorvel {
 /// `spacing` points from the next; rows stand the same `spacing` apart.
 ///
 /// The count of columns follows from the width alone: columns that no cell needs stay empty, and there is
-/// always one column, however narrow. A cell fills its column, keeps its natural height and stands in the
-/// middle of its row. The cells are the grid's child widgets in order.
+/// always one column, however narrow. Only where a cell cannot do with the minimum (a long word in large
+/// text) are all columns as wide as that cell needs, so that none overlaps the next. A cell fills its column,
+/// keeps its natural height and stands in the middle of its row. The cells are the grid's child widgets in
+/// order.
 class AdaptiveGrid : public Container {
  public:
   AdaptiveGrid(int minimumColumnWidth, int spacing);
@@ -25,6 +27,7 @@ class AdaptiveGrid : public Container {
  private:
   template <class PlaceRow>
   int forEachRow(int width, PlaceRow&& placeRow) const;
+  int leastColumnWidth() const;
   int columnWidth(int width) const;
 
   int minimumColumnWidth_;

@@ -5,23 +5,28 @@
 namespace quorvel {
 
 Frame::Frame(Size size, Gtk::Widget& child) : size_(size), child_(child) {
-  if (size.width)
-    set_hexpand(false);
-  if (size.height)
-    set_vexpand(false);
+  set_hexpand(!size.width && child.compute_expand(Gtk::Orientation::HORIZONTAL));
+  set_vexpand(!size.height && child.compute_expand(Gtk::Orientation::VERTICAL));
   append(child_);
+}
+
+/// The width that the frame asks for by itself; nothing where that is the child's.
+std::optional<int> Frame::ownWidth() const {
+  if (size_.minimumWidth)
+    return std::max(widthRequest(child_).minimum, *size_.minimumWidth);
+  return size_.width;
 }
 
 void Frame::measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
                           int& minimumBaseline, int& naturalBaseline) const {
   minimumBaseline = naturalBaseline = -1;
   const bool isHorizontal = orientation == Gtk::Orientation::HORIZONTAL;
-  if (const auto fixed = isHorizontal ? size_.width : size_.height) {
-    minimum = natural = *fixed;
+  if (const auto own = isHorizontal ? ownWidth() : size_.height) {
+    minimum = natural = *own;
     return;
   }
-  const auto request =
-      isHorizontal ? widthRequest(child_) : heightRequest(child_, size_.width.value_or(forSize));
+  const int width = size_.width || forSize < 0 ? ownWidth().value_or(-1) : forSize;
+  const auto request = isHorizontal ? widthRequest(child_) : heightRequest(child_, width);
   minimum = request.minimum;
   natural = request.natural;
 }

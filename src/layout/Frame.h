@@ -6,14 +6,15 @@
 
 namespace quorvel {
 
-/// Gives its one child an exact width, an exact height or both, in points, whatever the child would like.
+/// Gives its one child an exact width, an exact height or both, in points, whatever the child would like; or
+/// a least width, of which the frame asks for no more unless the child cannot do with it.
 ///
-/// In a direction that is not fixed the frame is as large as its child. The child is a managed widget that
-/// the frame takes over; it fills the frame as far as its own alignment lets it.
+/// In a direction of which nothing is said the frame is as large as its child. The child is a managed widget
+/// that the frame takes over; it fills the frame as far as its own alignment lets it.
 class Frame : public Container {
  public:
   struct Size {
-    std::optional<int> width = {}, height = {};
+    std::optional<int> width = {}, height = {}, minimumWidth = {};
   };
   Frame(Size size, Gtk::Widget& child);
 
@@ -23,6 +24,8 @@ class Frame : public Container {
   void size_allocate_vfunc(int width, int height, int baseline) override;
 
  private:
+  std::optional<int> ownWidth() const;
+
   Size size_;
   Gtk::Widget& child_;
 };

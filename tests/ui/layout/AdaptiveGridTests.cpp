@@ -61,5 +61,16 @@ TEST(AdaptiveGrid, FollowsTheWidth) {
   EXPECT_EQ(boundsIn(*grid, *second).get_y(), 30);
 }
 
+TEST(AdaptiveGrid, WhereACellNeedsMoreThanTheMinimumAllColumnsGrowAndNoneOverlaps) {
+  auto* grid = Gtk::make_managed<AdaptiveGrid>(100, 10);
+  auto* wide = cell(*grid);
+  wide->set_size_request(130, 20);
+  auto* second = cell(*grid);
+  UiStage stage(*grid, 330);
+  EXPECT_EQ(grid->columnCount(330), 2) << "three of 130 would need 410";
+  EXPECT_EQ(boundsIn(*grid, *wide).get_width(), 160);
+  EXPECT_EQ(boundsIn(*grid, *second).get_x(), 170);
+}
+
 } // namespace
 } // namespace quorvel

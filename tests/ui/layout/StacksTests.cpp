@@ -72,5 +72,42 @@ TEST(Frame, CentresASmallerChild) {
   EXPECT_EQ(boundsIn(*frame, *child).get_y(), 16);
 }
 
+Gtk::Label* sentence() {
+  auto* label =
+      Gtk::make_managed<Gtk::Label>("A sentence that would rather be on one long line than on several.");
+  label->set_wrap(true);
+  return label;
+}
+
+TEST(Frame, WithALeastWidthAsksForNoMoreHoweverLongItsTextIs) {
+  auto* frame = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 120}, *sentence());
+  auto* stack = hstack(0, {frame, hspacer()});
+  UiStage stage(*stack, 600);
+  EXPECT_EQ(frame->get_width(), 120);
+  EXPECT_EQ(heightRequest(*frame, -1).minimum, heightRequest(*frame, 120).minimum);
+}
+
+TEST(Frame, WithALeastWidthIsAsWideAsAChildThatCannotDoWithIt) {
+  auto* frame = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 120}, *block(200, 10));
+  auto* stack = hstack(0, {frame, hspacer()});
+  UiStage stage(*stack, 600);
+  EXPECT_EQ(frame->get_width(), 200);
+}
+
+TEST(Frame, WithALeastWidthTakesMoreWhereItExpands) {
+  auto* frame = stretched(Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 120}, *block(10, 10)));
+  auto* stack = hstack(0, {frame});
+  UiStage stage(*stack, 600);
+  EXPECT_EQ(frame->get_width(), 600);
+}
+
+TEST(Frame, IsAsHighAsItsRowWhereItsChildExpandsDownwards) {
+  auto* column = vstack(0, {block(10, 10), vspacer()});
+  auto* frame = Gtk::make_managed<Frame>(Frame::Size{.width = 50}, *column);
+  auto* stack = hstack(0, {frame, block(10, 80)});
+  UiStage stage(*stack, 200);
+  EXPECT_EQ(frame->get_height(), 80);
+}
+
 } // namespace
 } // namespace quorvel
