@@ -102,6 +102,19 @@ Gdk::Rectangle boundsIn(const Gtk::Widget& ancestor, const Gtk::Widget& widget) 
           static_cast<int>(bounds.size.width), static_cast<int>(bounds.size.height)};
 }
 
+Color inkOf(Gtk::Widget& widget) {
+  const auto color = widget.get_style_context()->get_color();
+  return {color.get_red(), color.get_green(), color.get_blue(), color.get_alpha()};
+}
+
+bool hasAccessibleName(Gtk::Widget& widget, const std::string& name) {
+  char* difference = gtk_test_accessible_check_property(GTK_ACCESSIBLE(widget.gobj()),
+                                                        GTK_ACCESSIBLE_PROPERTY_LABEL, name.c_str());
+  const bool isSo = difference == nullptr;
+  g_free(difference);
+  return isSo;
+}
+
 bool isAccessiblySelected(Gtk::Widget& widget) {
   auto* accessible = GTK_ACCESSIBLE(widget.gobj());
   if (!gtk_test_accessible_has_state(accessible, GTK_ACCESSIBLE_STATE_SELECTED))

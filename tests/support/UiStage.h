@@ -53,6 +53,10 @@ Gtk::Button* buttonNamed(Gtk::Widget& root, const Glib::ustring& name);
 
 /// Where `widget` is drawn inside `ancestor`, in points.
 Gdk::Rectangle boundsIn(const Gtk::Widget& ancestor, const Gtk::Widget& widget);
+/// The colour that a text or a symbol is drawn in.
+Color inkOf(Gtk::Widget& widget);
+/// Whether this is the name that assistive technology reads for the widget.
+bool hasAccessibleName(Gtk::Widget& widget, const std::string& name);
 /// Whether assistive technology is told that the widget is selected.
 bool isAccessiblySelected(Gtk::Widget& widget);
 /// What a press of the pointer or of Return does; nothing where the button is disabled.

@@ -5,6 +5,7 @@
 #include "StatusPill.h"
 #include "UiStage.h"
 #include "text.h"
+#include "tone.h"
 
 #include <gmock/gmock.h>
 
@@ -107,6 +108,16 @@ TEST(MetricTile, ShowsItsFourPartsAndANewValueInPlace) {
   tile->setValue("4");
   EXPECT_THAT(texts(*tile), ElementsAre("Active requests", "4", "Routed or drafting"));
   EXPECT_EQ(boundsIn(*tile, *labelled(*tile, "4")).get_x(), 18);
+}
+
+TEST(Tone, ATextTakesTheToneOfItselfAndOfAContainer) {
+  constexpr TextLook look{.color = TextColor::tone};
+  auto* itself = toned(AccentTone::gold, text("Needs review", look));
+  auto* inside = text("Approved", look);
+  auto* both = vstack(0, {itself, toned(AccentTone::green, hstack(0, {inside}))});
+  UiStage stage(*both, 300);
+  EXPECT_THAT(inkOf(*itself), IsColor(QuorvelBrand::gold));
+  EXPECT_THAT(inkOf(*inside), IsColor(QuorvelBrand::green));
 }
 
 TEST(Typography, TextGrowsWithTheTextSizeOfTheDesktop) {
