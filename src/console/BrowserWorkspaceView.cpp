@@ -1,0 +1,150 @@
+#include "BrowserWorkspaceView.h"
+
+#include "Frame.h"
+#include "SectionHeader.h"
+#include "StatusPill.h"
+#include "card.h"
+#include "text.h"
+
+namespace quorvel {
+namespace {
+
+/// The content on a ground of its own: a capsule, a tinted panel.
+Gtk::Widget* onGround(std::initializer_list<const char*> cssClasses, Gtk::Widget* content) {
+  auto* ground = Gtk::make_managed<Gtk::Box>();
+  for (const auto* cssClass : cssClasses)
+    ground->add_css_class(cssClass);
+  ground->append(*content);
+  return ground;
+}
+
+Gtk::Widget* circle(int diameter, std::initializer_list<const char*> cssClasses) {
+  auto* area = Gtk::make_managed<Gtk::Box>();
+  area->set_size_request(diameter, diameter);
+  auto* shape = onGround(cssClasses, area);
+  shape->set_valign(Gtk::Align::CENTER);
+  return shape;
+}
+
+struct BrowserSideItem {
+  const char* title;
+  const char* count;
+  bool active;
+};
+
+Gtk::Widget* sideItem(const BrowserSideItem& item) {
+  constexpr TextLook look{TextStyle::caption, FontWeight::semibold};
+  auto* row = hstack(defaultSpacing, {text(item.title, look), hspacer()});
+  if (*item.count)
+    row->add({text(item.count, look)});
+  auto* capsule = onGround({"browser-side-item"}, padded(10, 7, row));
+  if (item.active)
+    capsule->add_css_class("active");
+  return capsule;
+}
+
+Gtk::Widget* sidebar() {
+  auto* folders = vstack(12, {text("Gmail", {TextStyle::headline}), sideItem({"Inbox", "1,323", true}),
+                              sideItem({"Starred", "", false}), sideItem({"Sent", "", false}),
+                              sideItem({"Drafts", "8", false}), vspacer()});
+  return onGround({"browser-sidebar"},
+                  padded(14, Gtk::make_managed<Frame>(Frame::Size{.width = 130}, *folders)));
+}
+
+struct BrowserMessage {
+  const char* sender;
+  const char* subject;
+  const char* detail;
+  bool active;
+};
+
+Gtk::Widget* messageRow(const BrowserMessage& message) {
+  auto* texts = vstack(2, {text(message.sender, {TextStyle::caption, FontWeight::bold}),
+                           text(message.subject, {TextStyle::callout, FontWeight::medium}),
+                           text(message.detail, {TextStyle::caption, {}, TextColor::dimmed})});
+  auto* content = hstack(10, {circle(9, {"browser-message-dot"}), texts, hspacer()});
+  auto* row = onGround({"browser-message"}, padded(11, content));
+  if (message.active)
+    row->add_css_class("active");
+  return row;
+}
+
+Gtk::Widget* searchField() {
+  auto* hint = text("Search mail", {TextStyle::callout, {}, TextColor::dimmed});
+  return onGround({"browser-field"}, padded(10, stretched(hint)));
+}
+
+Gtk::Widget* heldDraft() {
+  auto* draft =
+      vstack(8, {text("Held draft", {TextStyle::caption, FontWeight::black, TextColor::green}),
+                 text("Thanks for checking in. I confirmed the fulfillment note and the updated delivery "
+                      "window is ready below.",
+                      {TextStyle::callout})});
+  return onGround({"browser-draft"}, padded(14, draft));
+}
+
+Gtk::Widget* messageColumn() {
+  return padded(
+      14,
+      vstack(10,
+             {searchField(),
+              messageRow(
+                  {"Customer Desk", "Order update request", "Can you confirm when this will arrive?", true}),
+              messageRow({"Storefront Orders", "New storefront sale", "Review fulfillment by Jun 9.", false}),
+              messageRow({"Weekly campaign report", "Retargeting audiences", "Ready for review.", false}),
+              messageRow({"Invoice exception", "Past due invoices", "Three invoices moved past due.", false}),
+              vspacer(), heldDraft()}));
+}
+
+Gtk::Widget* windowChrome() {
+  auto* host = text("mail.example.com", {TextStyle::caption, FontWeight::medium, TextColor::dimmed});
+  host->set_xalign(0.5);
+  return onGround(
+      {"browser-chrome"},
+      padded(12, hstack(8, {circle(11, {"window-button", "close"}), circle(11, {"window-button", "minimise"}),
+                            circle(11, {"window-button", "zoom"}),
+                            onGround({"browser-field"}, padded(0, 7, stretched(host)))})));
+}
+
+Gtk::Widget* browserMock() {
+  auto* body = hstack(0, {sidebar(), messageColumn()});
+  body->set_size_request(-1, 430);
+  auto* mock = vstack(0, {windowChrome(), body});
+  mock->add_css_class("browser-mock");
+  mock->set_overflow(Gtk::Overflow::HIDDEN);
+  return mock;
+}
+
+Gtk::Widget* noteCard(const Glib::ustring& title, const Glib::ustring& value, const Glib::ustring& detail,
+                      AccentTone tone) {
+  return quorvelCard(stretched(vstack(
+      10, {Gtk::make_managed<StatusPill>(title, tone), text(value, {TextStyle::title3, FontWeight::semibold}),
+           text(detail, {TextStyle::callout, {}, TextColor::secondaryInk})})));
+}
+
+Gtk::Widget* noteColumn() {
+  return vstack(
+      18,
+      {noteCard("Observed page", "Gmail customer thread",
+                "Order update request is selected and source context is visible.", AccentTone::blue),
+       noteCard("Assigned helper", "Order Management Agent",
+                "Draft reply is held because the action is customer-facing.", AccentTone::green),
+       noteCard("Approval", "Required", "Nothing sends until the owner approves the reply batch.",
+                AccentTone::gold)},
+      HorizontalAlignment::centre);
+}
+
+} // namespace
+
+BrowserWorkspaceView::BrowserWorkspaceView() : VStack(22) {
+  auto* mock = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 520}, *browserMock());
+  auto* notes = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 300}, *noteColumn());
+  notes->set_hexpand(false);
+  add({Gtk::make_managed<SectionHeader>(
+           "Browser workspace", "Page context beside the agent",
+           "The desktop app keeps the viewed page, agent notes, screenshots, and "
+           "approval state in the same workspace."),
+       hstack(18, {stretched(mock), notes}, VerticalAlignment::top)});
+}
+
+} // namespace quorvel

@@ -1,0 +1,90 @@
+#include "ConnectorsView.h"
+
+#include "AdaptiveGrid.h"
+#include "Frame.h"
+#include "KeyedRows.h"
+#include "ModelSwitch.h"
+#include "SectionHeader.h"
+#include "StatusPill.h"
+#include "buttons.h"
+#include "card.h"
+#include "observe.h"
+#include "symbol.h"
+#include "tone.h"
+
+namespace quorvel {
+namespace {
+
+class ConnectorCard : public VStack {
+ public:
+  ConnectorCard(const ConnectorItem& connector, const Action& toggle)
+      : VStack(0),
+        symbol_(symbol(connector.symbol, {TextStyle::title3, FontWeight::semibold, TextColor::tone})),
+        tile_(framed({.width = 38, .height = 38}, symbol_)),
+        state_(Gtk::make_managed<StatusPill>("", connector.tone)),
+        name_(text("", {TextStyle::title3, FontWeight::semibold})),
+        category_(text("", {TextStyle::callout, {}, TextColor::secondaryInk})),
+        lastSync_(text("", {TextStyle::caption, {}, TextColor::dimmed})),
+        // Which way it goes is the store's decision: it flips what it holds.
+        switch_(Gtk::make_managed<ModelSwitch>([toggle](bool) { toggle(); })) {
+    tile_->add_css_class("soft-tile");
+    auto* head = hstack(defaultSpacing, {tile_, hspacer(), state_});
+    auto* identity = vstack(5, {name_, category_});
+    auto* sync = hstack(defaultSpacing, {lastSync_, hspacer(), switch_});
+    add({quorvelCard(vstack(16, {head, identity, sync}))});
+    show(connector);
+  }
+
+  void show(const ConnectorItem& connector) {
+    setSymbol(*symbol_, connector.symbol);
+    setTone(*tile_, connector.tone);
+    if (connector.isConnected)
+      state_->show("Connected", AccentTone::green);
+    else
+      state_->show("Off", AccentTone::slate);
+    name_->set_text(connector.name);
+    category_->set_text(connector.category);
+    lastSync_->set_text(connector.lastSync);
+    switch_->show(connector.isConnected);
+    setAccessibleName(*switch_, connector.name);
+  }
+
+ private:
+  Gtk::Image* symbol_;
+  Frame* tile_;
+  StatusPill* state_;
+  Gtk::Label* name_;
+  Gtk::Label* category_;
+  Gtk::Label* lastSync_;
+  ModelSwitch* switch_;
+};
+
+class ConnectorGrid : public AdaptiveGrid {
+ public:
+  explicit ConnectorGrid(WorkspaceStore& store) : AdaptiveGrid(230, 14), store_(store) {
+    observe(store, *this, &ConnectorGrid::refresh);
+  }
+
+ private:
+  void refresh() { cards_.show(*store_.connectors); }
+
+  ConnectorCard* makeCard(const ConnectorItem& connector) {
+    return Gtk::make_managed<ConnectorCard>(connector,
+                                            [this, connector] { store_.toggleConnector(connector); });
+  }
+
+  WorkspaceStore& store_;
+  KeyedRows<ConnectorItem, ConnectorCard> cards_{
+      *this, [this](const ConnectorItem& connector) { return makeCard(connector); }};
+};
+
+} // namespace
+
+ConnectorsView::ConnectorsView(WorkspaceStore& store) : VStack(22) {
+  add({Gtk::make_managed<SectionHeader>("Connectors", "Real context from working apps",
+                                        "Quorvel's helper agents can work from messages, files, calendars, "
+                                        "stores, payments, finance, ads, and browser context."),
+       Gtk::make_managed<ConnectorGrid>(store)});
+}
+
+} // namespace quorvel
