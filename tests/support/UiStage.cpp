@@ -4,6 +4,19 @@
 #include <stdexcept>
 
 namespace quorvel::testing {
+namespace {
+
+bool hasAccessibleText(Gtk::Widget& widget, GtkAccessibleProperty property, const std::string& text) {
+  auto* accessible = GTK_ACCESSIBLE(widget.gobj());
+  if (!gtk_test_accessible_has_property(accessible, property))
+    return false;
+  char* difference = gtk_test_accessible_check_property(accessible, property, text.c_str());
+  const bool isSame = difference == nullptr;
+  g_free(difference);
+  return isSame;
+}
+
+} // namespace
 
 UiStage::UiStage(Gtk::Widget& widget, int width, int height) : widget_(widget) {
   window_.set_child(ground_);
@@ -30,7 +43,7 @@ void UiStage::resize(int width, int height) {
     drawFrame(widget_);
 }
 
-Color UiStage::pixel(int x, int y) {
+Cairo::RefPtr<Cairo::ImageSurface> UiStage::draw() {
   drawFrame(widget_);
   const auto paintable = Gtk::WidgetPaintable::create(window_);
   const auto snapshot = Gtk::Snapshot::create();
@@ -41,11 +54,23 @@ Color UiStage::pixel(int x, int y) {
   gsk_render_node_draw(node, Cairo::Context::create(surface)->cobj());
   gsk_render_node_unref(node);
   surface->flush();
+  return surface;
+}
+
+Color UiStage::pixel(int x, int y) {
+  const auto surface = draw();
   double offsetX = 0, offsetY = 0;
   widget_.translate_coordinates(window_, x, y, offsetX, offsetY);
   const auto* bgra =
       surface->get_data() + static_cast<int>(offsetY) * surface->get_stride() + static_cast<int>(offsetX) * 4;
   return {bgra[2] / 255.0, bgra[1] / 255.0, bgra[0] / 255.0};
+}
+
+std::vector<unsigned char> UiStage::picture() {
+  const auto surface = draw();
+  const auto size =
+      static_cast<std::size_t>(surface->get_stride()) * static_cast<std::size_t>(surface->get_height());
+  return {surface->get_data(), surface->get_data() + size};
 }
 
 bool waitUntil(const std::function<bool()>& condition) {
@@ -108,11 +133,11 @@ Color inkOf(Gtk::Widget& widget) {
 }
 
 bool hasAccessibleName(Gtk::Widget& widget, const std::string& name) {
-  char* difference = gtk_test_accessible_check_property(GTK_ACCESSIBLE(widget.gobj()),
-                                                        GTK_ACCESSIBLE_PROPERTY_LABEL, name.c_str());
-  const bool isSo = difference == nullptr;
-  g_free(difference);
-  return isSo;
+  return hasAccessibleText(widget, GTK_ACCESSIBLE_PROPERTY_LABEL, name);
+}
+
+bool hasAccessibleDescription(Gtk::Widget& widget, const std::string& description) {
+  return hasAccessibleText(widget, GTK_ACCESSIBLE_PROPERTY_DESCRIPTION, description);
 }
 
 bool isAccessiblySelected(Gtk::Widget& widget) {
@@ -126,8 +151,9 @@ bool isAccessiblySelected(Gtk::Widget& widget) {
 }
 
 void click(Gtk::Button& button) {
-  if (button.is_sensitive())
-    gtk_widget_activate(GTK_WIDGET(button.gobj()));
+  // Activating a button shows it pressed for a moment first; what follows is the same.
+  if (button.is_sensitive() && button.get_mapped())
+    g_signal_emit_by_name(button.gobj(), "clicked");
 }
 
 } // namespace quorvel::testing

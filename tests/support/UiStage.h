@@ -22,8 +22,12 @@ class UiStage {
   Gtk::Window& window() { return window_; }
   /// What is on screen, pixel by pixel.
   Color pixel(int x, int y);
+  /// The whole of it, for comparing.
+  std::vector<unsigned char> picture();
 
  private:
+  Cairo::RefPtr<Cairo::ImageSurface> draw();
+
   Gtk::Widget& widget_;
   Gtk::Window window_;
   Gtk::Fixed ground_;
@@ -57,6 +61,7 @@ Gdk::Rectangle boundsIn(const Gtk::Widget& ancestor, const Gtk::Widget& widget);
 Color inkOf(Gtk::Widget& widget);
 /// Whether this is the name that assistive technology reads for the widget.
 bool hasAccessibleName(Gtk::Widget& widget, const std::string& name);
+bool hasAccessibleDescription(Gtk::Widget& widget, const std::string& description);
 /// Whether assistive technology is told that the widget is selected.
 bool isAccessiblySelected(Gtk::Widget& widget);
 /// What a press of the pointer or of Return does; nothing where the button is disabled.
