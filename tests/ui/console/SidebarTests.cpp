@@ -28,6 +28,20 @@ class SidebarTest : public ::testing::Test {
     });
     draw();
   }
+  /// Short name and load of every agent shown.
+  std::vector<std::string> agentTexts() {
+    const auto all = texts(sidebar_);
+    return {std::ranges::find(all, "Active agents") + 1, std::ranges::find(all, "LIVE MONITOR")};
+  }
+  Gdk::Rectangle bounds(const Gtk::Widget& widget) { return boundsIn(sidebar_, widget); }
+  /// What is drawn in a row's padding.
+  Color groundOf(const Gtk::Widget& button) {
+    return stage_.pixel(bounds(button).get_x() - 6, bounds(button).get_y() - 4);
+  }
+  Color leftOf(const Gtk::Widget& badge) {
+    const auto place = bounds(badge);
+    return stage_.pixel(place.get_x() - 4, place.get_y() + place.get_height() / 2);
+  }
   void draw() { drawFrame(sidebar_); }
 
   WorkspaceStore store_;
@@ -54,6 +68,197 @@ TEST_F(SidebarTest, ShowsTheEightSectionsInOrderWithTheThreeBadgesOfTheSampleWor
 
 TEST_F(SidebarTest, TheOverviewIsSelectedAtFirstAndNothingElse) {
   EXPECT_THAT(selectedRows(), ElementsAre(WorkspaceSection::overview));
+}
+
+TEST_F(SidebarTest, PressingARowSelectsItsSectionAndNoOther) {
+  for (const auto section : allCases<WorkspaceSection>()) {
+    click(row(section));
+    EXPECT_EQ(*store_.selectedSection, section);
+    draw();
+    EXPECT_THAT(selectedRows(), ElementsAre(section));
+  }
+}
+
+TEST_F(SidebarTest, PressingTheSelectedRowAnnouncesAndChangesNothingVisible) {
+  const auto textsBefore = texts(sidebar_);
+  const auto pictureBefore = stage_.picture();
+  int announcements = 0;
+  store_.objectWillChange().connect([&] { ++announcements; });
+  click(row(WorkspaceSection::overview));
+  draw();
+  EXPECT_EQ(announcements, 1);
+  EXPECT_EQ(texts(sidebar_), textsBefore);
+  EXPECT_TRUE(stage_.picture() == pictureBefore);
+}
+
+TEST_F(SidebarTest, WithEveryApprovalDecidedTheApprovalsRowHasNoBadgeAtAll) {
+  setApprovals(ApprovalState::approved);
+  EXPECT_THAT(rowTexts(WorkspaceSection::approvals), ElementsAre("Approvals", "Human gates"));
+  setApprovals(ApprovalState::waiting);
+  EXPECT_THAT(rowTexts(WorkspaceSection::approvals), ElementsAre("Approvals", "Human gates", "3"));
+}
+
+TEST_F(SidebarTest, WithEveryRequestCompleteTheRequestsRowHasNoBadgeAtAll) {
+  store_.requests.update([](auto& list) {
+    for (auto& request : list)
+      request.status = RequestStatus::complete;
+  });
+  draw();
+  EXPECT_THAT(rowTexts(WorkspaceSection::requests), ElementsAre("Live Requests", "Queued work"));
+}
+
+TEST_F(SidebarTest, WithEveryConnectorDisconnectedTheConnectorsRowShowsNought) {
+  store_.connectors.update([](auto& list) {
+    for (auto& connector : list)
+      connector.isConnected = false;
+  });
+  draw();
+  EXPECT_THAT(rowTexts(WorkspaceSection::connectors), ElementsAre("Connectors", "App access", "0"));
+}
+
+TEST_F(SidebarTest, BadgesArePlainDecimals) {
+  for (int i = 0; i < 1231; ++i)
+    store_.createRequest();
+  draw();
+  EXPECT_THAT(rowTexts(WorkspaceSection::requests), ElementsAre("Live Requests", "Queued work", "1234"));
+}
+
+TEST_F(SidebarTest, NewChatSelectsTheRequestsWhoseBadgeRisesByOne) {
+  click(*buttonNamed(sidebar_, "+ New chat"));
+  draw();
+  EXPECT_THAT(selectedRows(), ElementsAre(WorkspaceSection::requests));
+  EXPECT_THAT(rowTexts(WorkspaceSection::requests), ElementsAre("Live Requests", "Queued work", "4"));
+  EXPECT_EQ(store_.requests->front().title, "New workspace request");
+}
+
+TEST_F(SidebarTest, OfEightAgentsOnlyTheFirstFiveAreShownInTheirOrder) {
+  EXPECT_THAT(agentTexts(), ElementsAre("Core", "Active", "Plan", "Drafting", "Money", "Review", "Ads",
+                                        "Review", "Growth", "Drafting"));
+}
+
+TEST_F(SidebarTest, OfSevenAgentsOnlyTheFirstFiveAreShownAndOfThreeAllThree) {
+  store_.agents.update([](auto& list) { list.pop_front(); });
+  draw();
+  EXPECT_THAT(agentTexts(), ElementsAre("Plan", "Drafting", "Money", "Review", "Ads", "Review", "Growth",
+                                        "Drafting", "Calls", "Review"));
+  store_.agents.update([](auto& list) { list.resize(3, list.front()); });
+  draw();
+  EXPECT_THAT(agentTexts(), ElementsAre("Plan", "Drafting", "Money", "Review", "Ads", "Review"));
+}
+
+TEST_F(SidebarTest, WithNoAgentTheCaptionStandsAlone) {
+  store_.agents = {};
+  draw();
+  EXPECT_THAT(agentTexts(), ElementsAre());
+  EXPECT_NE(labelled(sidebar_, "Active agents"), nullptr);
+}
+
+TEST_F(SidebarTest, AnAgentsRowFollowsItsLoadInPlace) {
+  auto* name = labelled(sidebar_, "Plan");
+  store_.agents.update([](auto& list) { list[1].load = AgentLoad::idle; });
+  draw();
+  EXPECT_EQ(labelled(sidebar_, "Plan"), name);
+  EXPECT_THAT(agentTexts(), ElementsAre("Core", "Active", "Plan", "Idle", "Money", "Review", "Ads", "Review",
+                                        "Growth", "Drafting"));
+}
+
+TEST_F(SidebarTest, TheLiveMonitorAlwaysSaysTheSame) {
+  store_.requests = {};
+  store_.approvals = {};
+  store_.agents = {};
+  draw();
+  auto all = texts(sidebar_);
+  all.erase(all.begin(), std::ranges::find(all, "LIVE MONITOR"));
+  EXPECT_THAT(all, ElementsAre("LIVE MONITOR", "Live", "Order Agent is holding 3 customer replies."));
+}
+
+TEST_F(SidebarTest, TheSelectedRowIsDrawnRaisedAndInStrongerColours) {
+  auto& selected = row(WorkspaceSection::overview);
+  EXPECT_THAT(inkOf(*all<Gtk::Image>(selected).front()), IsColor(QuorvelBrand::green));
+  EXPECT_THAT(inkOf(*labelled(selected, "Command Center")), IsColor(QuorvelBrand::ink));
+  EXPECT_THAT(inkOf(*labelled(selected, "Today at a glance")), IsColor(QuorvelBrand::muted));
+  EXPECT_THAT(groundOf(selected), IsColor(QuorvelBrand::panelRaised));
+}
+
+TEST_F(SidebarTest, AnyOtherRowIsTransparentAndQuieter) {
+  auto& other = row(WorkspaceSection::requests);
+  EXPECT_THAT(inkOf(*all<Gtk::Image>(other).front()), IsColor(QuorvelBrand::muted));
+  EXPECT_THAT(inkOf(*labelled(other, "Live Requests")), IsColor(QuorvelBrand::secondaryInk));
+  EXPECT_THAT(inkOf(*labelled(other, "Queued work")), IsColor(QuorvelBrand::muted));
+  EXPECT_THAT(groundOf(other), ::testing::Not(IsColor(QuorvelBrand::panelRaised)));
+}
+
+TEST_F(SidebarTest, ABadgeTurnsFromALightTextToABlackOneOnALightCapsule) {
+  auto& requests = row(WorkspaceSection::requests);
+  auto* badge = labelled(requests, "3");
+  EXPECT_THAT(inkOf(*badge), IsColor(QuorvelBrand::secondaryInk));
+  EXPECT_THAT(leftOf(*badge), IsColor(QuorvelBrand::panelRaised));
+  click(requests);
+  draw();
+  EXPECT_THAT(inkOf(*badge), IsColor(Color::black()));
+  EXPECT_THAT(leftOf(*badge), IsColor(QuorvelBrand::control));
+}
+
+TEST_F(SidebarTest, HasThePaddingsAndSpacingsOfTheDrawing) {
+  EXPECT_EQ(bounds(*labelled(sidebar_, "Quorvel")).get_x(), 18 + 38 + 12);
+  EXPECT_GE(bounds(*labelled(sidebar_, "Quorvel")).get_y(), 20);
+  const auto newChat = bounds(*buttonNamed(sidebar_, "+ New chat"));
+  EXPECT_EQ(newChat.get_x(), 18);
+  EXPECT_EQ(newChat.get_width(), 272 - 2 * 18);
+  EXPECT_EQ(newChat.get_height(), bounds(*labelled(sidebar_, "+ New chat")).get_height() + 2 * 13);
+  EXPECT_EQ(bounds(*labelled(sidebar_, "Workspace")).get_x(), 12 + 16);
+  EXPECT_EQ(bounds(*labelled(sidebar_, "Workspace")).get_y(), newChat.get_y() + newChat.get_height() + 18);
+  EXPECT_EQ(bounds(*labelled(sidebar_, "Core")).get_x(), 12 + 12 + 9 + 10);
+}
+
+TEST_F(SidebarTest, ARowsPaddingLiesOutsideItsButton) {
+  const auto first = bounds(row(WorkspaceSection::overview));
+  const auto second = bounds(row(WorkspaceSection::agents));
+  EXPECT_EQ(first.get_x(), 12 + 12);
+  EXPECT_EQ(first.get_width(), 272 - 2 * (12 + 12));
+  EXPECT_EQ(second.get_y(), first.get_y() + first.get_height() + 10 + 6 + 10);
+  EXPECT_EQ(bounds(*labelled(sidebar_, "Command Center")).get_x(), first.get_x() + 22 + 12);
+  const auto badge = bounds(*labelled(row(WorkspaceSection::requests), "3"));
+  EXPECT_EQ(badge.get_x() + badge.get_width(), first.get_x() + first.get_width() - 8);
+}
+
+TEST_F(SidebarTest, ARowIsNamedByItsTitleAndDescribedByTheRest) {
+  EXPECT_TRUE(hasAccessibleName(row(WorkspaceSection::approvals), "Approvals"));
+  EXPECT_TRUE(hasAccessibleDescription(row(WorkspaceSection::approvals), "Human gates, 2"));
+  EXPECT_TRUE(hasAccessibleName(row(WorkspaceSection::pricing), "Plans"));
+  EXPECT_TRUE(hasAccessibleDescription(row(WorkspaceSection::pricing), "Subscription fit"));
+  EXPECT_TRUE(hasAccessibleName(*buttonNamed(sidebar_, "+ New chat"), "+ New chat"));
+}
+
+TEST_F(SidebarTest, TabReachesNewChatAndThenEveryRowInOrder) {
+  std::vector<Gtk::Widget*> expected{buttonNamed(sidebar_, "+ New chat")};
+  for (const auto section : allCases<WorkspaceSection>())
+    expected.push_back(&row(section));
+  expected.front()->grab_focus();
+  std::vector<Gtk::Widget*> reached{stage_.window().get_focus()};
+  while (reached.size() < expected.size()) {
+    sidebar_.child_focus(Gtk::DirectionType::TAB_FORWARD);
+    reached.push_back(stage_.window().get_focus());
+  }
+  EXPECT_EQ(reached, expected);
+}
+
+TEST_F(SidebarTest, ARowKeepsTheFocusWhenItIsPressed) {
+  auto& plans = row(WorkspaceSection::pricing);
+  plans.grab_focus();
+  click(plans);
+  draw();
+  EXPECT_EQ(stage_.window().get_focus(), &plans);
+}
+
+TEST_F(SidebarTest, InALowWindowTheBodyScrollsBelowTheHeadAndFollowsTheFocus) {
+  stage_.resize(272, 400);
+  auto& plans = row(WorkspaceSection::pricing);
+  EXPECT_GT(bounds(plans).get_y(), 400);
+  plans.grab_focus();
+  EXPECT_TRUE(waitUntil([&] { return bounds(plans).get_y() + bounds(plans).get_height() <= 400; }));
+  EXPECT_EQ(bounds(*labelled(sidebar_, "Quorvel")).get_x(), 18 + 38 + 12);
+  EXPECT_LT(bounds(*buttonNamed(sidebar_, "+ New chat")).get_y(), 100);
 }
 
 } // namespace
