@@ -20,24 +20,28 @@ int AdaptiveGrid::leastColumnWidth() const {
   return least;
 }
 
-int AdaptiveGrid::columnWidth(int width) const {
-  const int count = columnCount(width);
-  return (width - (count - 1) * spacing_) / count;
+AdaptiveGrid::Column AdaptiveGrid::column(std::size_t index, std::size_t count, int width) const {
+  const auto start = [&](std::size_t place) {
+    return static_cast<int>(place) * (width + spacing_) / static_cast<int>(count);
+  };
+  return {start(index), start(index + 1) - spacing_ - start(index)};
 }
 
-/// Calls `placeRow(cells, y, height)` for every row and returns the height of all rows together.
+/// Calls `placeRow(cells, columns, y, height)` for every row and returns the height of all rows together.
 template <class PlaceRow>
 int AdaptiveGrid::forEachRow(int width, PlaceRow&& placeRow) const {
   const auto cells = visibleChildren();
   const auto perRow = static_cast<std::size_t>(columnCount(width));
-  const int cellWidth = columnWidth(width);
+  std::vector<Column> columns;
+  for (std::size_t i = 0; i < perRow; ++i)
+    columns.push_back(column(i, perRow, width));
   int y = 0;
   for (std::size_t first = 0; first < cells.size(); first += perRow) {
     const auto row = std::span(cells).subspan(first, std::min(perRow, cells.size() - first));
     int height = 0;
-    for (const auto* cell : row)
-      height = std::max(height, heightRequest(*cell, cellWidth).natural);
-    placeRow(row, y, height);
+    for (std::size_t i = 0; i < row.size(); ++i)
+      height = std::max(height, heightRequest(*row[i], columns[i].width).natural);
+    placeRow(row, columns, y, height);
     y += height + spacing_;
   }
   return std::max(0, y - spacing_);
@@ -51,17 +55,15 @@ void AdaptiveGrid::measure_vfunc(Gtk::Orientation orientation, int forSize, int&
     return;
   }
   const int width = forSize < 0 ? leastColumnWidth() : forSize;
-  minimum = natural = forEachRow(width, [](const auto&, int, int) {});
+  minimum = natural = forEachRow(width, [](const auto&, const auto&, int, int) {});
 }
 
 void AdaptiveGrid::size_allocate_vfunc(int width, int, int) {
-  const int cellWidth = columnWidth(width);
-  forEachRow(width, [&](const auto& row, int y, int height) {
-    int x = 0;
-    for (auto* cell : row) {
-      const int cellHeight = heightRequest(*cell, cellWidth).natural;
-      cell->size_allocate(Gtk::Allocation(x, y + (height - cellHeight) / 2, cellWidth, cellHeight), -1);
-      x += cellWidth + spacing_;
+  forEachRow(width, [](const auto& row, const auto& columns, int y, int height) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      const auto [x, cellWidth] = columns[i];
+      const int cellHeight = heightRequest(*row[i], cellWidth).natural;
+      row[i]->size_allocate(Gtk::Allocation(x, y + (height - cellHeight) / 2, cellWidth, cellHeight), -1);
     }
   });
 }

@@ -145,7 +145,7 @@ TEST_F(AgentsTest, HoweverNarrowThereIsOneColumnAndNoneIsNarrowerThan260Points) 
   EXPECT_EQ(cards().front()->get_width(), 260);
   stage_.resize(852);
   EXPECT_EQ(columns(), 3);
-  EXPECT_EQ(cards()[1]->get_width(), (852 - 28) / 3);
+  EXPECT_EQ(cards()[0]->get_width(), (852 - 28) / 3);
   EXPECT_EQ(boundsIn(grid(), *cards()[1]).get_x(), (852 - 28) / 3 + 14);
 }
 

@@ -39,6 +39,16 @@ TEST(AdaptiveGrid, SharesTheWidthEquallyAndLeavesSpareColumnsEmpty) {
   EXPECT_EQ(boundsIn(*grid, *second).get_x(), 116);
 }
 
+TEST(AdaptiveGrid, ItsLastColumnEndsWhereTheGridDoes) {
+  auto* grid = Gtk::make_managed<AdaptiveGrid>(168, 14);
+  Gtk::Widget* last = nullptr;
+  for (int i = 0; i < 4; ++i)
+    last = cell(*grid);
+  UiStage stage(*grid, 852);
+  const auto bounds = boundsIn(*grid, *last);
+  EXPECT_EQ(bounds.get_x() + bounds.get_width(), 852);
+}
+
 TEST(AdaptiveGrid, ACellKeepsItsHeightInTheMiddleOfItsRow) {
   auto* grid = Gtk::make_managed<AdaptiveGrid>(100, 10);
   auto* low = cell(*grid, 20);
