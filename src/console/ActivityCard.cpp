@@ -1,0 +1,56 @@
+#include "ActivityCard.h"
+
+#include "card.h"
+#include "text.h"
+#include "tone.h"
+
+#include <ranges>
+
+namespace quorvel {
+
+constexpr int shownEntries = 4;
+
+class ActivityRow : public HStack {
+ public:
+  explicit ActivityRow(const ActivityItem& entry);
+  void show(const ActivityItem& entry);
+
+ private:
+  Gtk::Widget* bar_;
+  Gtk::Label* title_;
+  Gtk::Label* timestamp_;
+  Gtk::Label* detail_;
+};
+
+ActivityRow::ActivityRow(const ActivityItem& entry)
+    : HStack(10, VerticalAlignment::top), bar_(Gtk::make_managed<Gtk::Box>()),
+      title_(text("", {TextStyle::callout, FontWeight::medium, TextColor::ink})),
+      timestamp_(text("", {TextStyle::caption2, {}, TextColor::dimmed})),
+      detail_(text("", {TextStyle::caption, {}, TextColor::dimmed}, 2)) {
+  bar_->add_css_class("activity-bar");
+  bar_->set_size_request(7, 28);
+  add({bar_, vstack(3, {hstack(defaultSpacing, {title_, hspacer(), timestamp_}), detail_})});
+  show(entry);
+}
+
+void ActivityRow::show(const ActivityItem& entry) {
+  setTone(*bar_, entry.tone);
+  title_->set_text(entry.title);
+  timestamp_->set_text(entry.timestamp);
+  detail_->set_text(entry.detail);
+}
+
+ActivityCard::ActivityCard()
+    : VStack(0), list_(vstack(14, {})),
+      rows_(*list_, [](const ActivityItem& entry) { return Gtk::make_managed<ActivityRow>(entry); }) {
+  applyCardStyle(*this);
+  add({padded(18,
+              stretched(vstack(14, {text("Activity", {.style = TextStyle::headline}), stretched(list_)})))});
+}
+
+void ActivityCard::show(const RecordList<ActivityItem>& activity) {
+  rows_.show(activity | std::views::take(shownEntries));
+  list_->set_visible(!activity.empty());
+}
+
+} // namespace quorvel

@@ -1,0 +1,99 @@
+#include "OverviewView.h"
+
+#include "ActivityCard.h"
+#include "AdaptiveGrid.h"
+#include "BrandMark.h"
+#include "CommandThreadCard.h"
+#include "FirstThatFits.h"
+#include "Frame.h"
+#include "MetricTile.h"
+#include "RequestQueueCard.h"
+#include "SectionHeader.h"
+#include "buttons.h"
+#include "card.h"
+#include "observe.h"
+
+#include <string>
+
+namespace quorvel {
+namespace {
+
+using Gtk::Orientation;
+
+struct Metric {
+  const char* title;
+  const char* detail;
+  AccentTone tone;
+  int (WorkspaceStore::*count)() const;
+};
+constexpr std::array metrics{
+    Metric{"Active requests", "Routed or drafting", AccentTone::blue, &WorkspaceStore::activeRequestCount},
+    Metric{"Approval queue", "Waiting on you", AccentTone::gold, &WorkspaceStore::pendingApprovalCount},
+    Metric{"Agents working", "Currently active", AccentTone::green, &WorkspaceStore::draftingCount},
+    Metric{"Connected tools", "Synced sources", AccentTone::clay, &WorkspaceStore::connectedCount},
+};
+
+Gtk::Widget* heroCopy(WorkspaceStore& store) {
+  const auto show = [&store](WorkspaceSection section) {
+    return [&store, section] { store.selectedSection = section; };
+  };
+  return vstack(16, {Gtk::make_managed<SectionHeader>("Always-on AI agents", "Quorvel is a command tool.",
+                                                      "Less rounded startup-app energy. More precise, quiet, "
+                                                      "operator-grade interface for agent work."),
+                     hstack(10, {button("New Request", "plus.message.fill", ButtonStyle::prominent,
+                                        [&store] { store.createRequest(); }),
+                                 button("Review Queue", "checkmark.seal.fill", ButtonStyle::bordered,
+                                        show(WorkspaceSection::approvals)),
+                                 button("Connectors", "point.3.connected.trianglepath.dotted",
+                                        ButtonStyle::bordered, show(WorkspaceSection::connectors))})});
+}
+
+Gtk::Widget* hero(WorkspaceStore& store) {
+  auto* copy = heroCopy(store);
+  copy->set_valign(Gtk::Align::CENTER);
+  auto* forms = Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
+      {Orientation::HORIZONTAL, 28, {copy, hspacer(24), Gtk::make_managed<BrandMark>(104)}},
+      {Orientation::HORIZONTAL, defaultSpacing, {copy, hspacer(), Gtk::make_managed<BrandMark>(74)}}});
+  return quorvelCard(stretched(forms), 24);
+}
+
+} // namespace
+
+OverviewView::OverviewView(WorkspaceStore& store) : VStack(24), store_(store) {
+  add({hero(store), metricGrid(), workArea()});
+  observe(store, *this, &OverviewView::refresh);
+}
+
+Gtk::Widget* OverviewView::metricGrid() {
+  auto* grid = Gtk::make_managed<AdaptiveGrid>(168, 14);
+  for (std::size_t i = 0; i < metrics.size(); ++i) {
+    tiles_[i] = Gtk::make_managed<MetricTile>(metrics[i].title, "", metrics[i].detail, metrics[i].tone);
+    grid->append(*tiles_[i]);
+  }
+  return grid;
+}
+
+/// The cards' texts wrap and shorten, so what they happen to say does not decide how the cards are arranged.
+Gtk::Widget* OverviewView::workArea() {
+  queue_ =
+      Gtk::make_managed<RequestQueueCard>([this] { store_.selectedSection = WorkspaceSection::requests; });
+  activity_ = Gtk::make_managed<ActivityCard>();
+  const auto column = [](int minimumWidth, Gtk::Widget& content) {
+    auto* frame = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = minimumWidth}, content);
+    frame->set_valign(Gtk::Align::START);
+    return stretched(frame);
+  };
+  auto* thread = column(420, *Gtk::make_managed<CommandThreadCard>([this] { store_.createRequest(); }));
+  auto* news = column(340, *vstack(18, {stretched(queue_), stretched(activity_)}));
+  return stretched(Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
+      {Orientation::HORIZONTAL, 18, {thread, news}}, {Orientation::VERTICAL, 18, {thread, news}}}));
+}
+
+void OverviewView::refresh() {
+  for (std::size_t i = 0; i < metrics.size(); ++i)
+    tiles_[i]->setValue(std::to_string((store_.*metrics[i].count)()));
+  queue_->show(store_.requests);
+  activity_->show(store_.activity);
+}
+
+} // namespace quorvel
