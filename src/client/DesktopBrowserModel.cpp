@@ -15,14 +15,27 @@ GObjectPointer<WebKitSettings> makeSettings() {
   const auto userAgent = std::string(webkit_settings_get_user_agent(settings.get())) + userAgentToken;
   webkit_settings_set_user_agent(settings.get(), userAgent.c_str());
   webkit_settings_set_javascript_can_open_windows_automatically(settings.get(), TRUE);
-  webkit_settings_set_enable_back_forward_navigation_gestures(settings.get(), TRUE);
   return settings;
+}
+
+/// Swiping back and forward. The engine takes a picture of each page it leaves for that, and crashes on a
+/// view that has no window to draw it with; so gestures are on exactly while there is one.
+void allowGesturesInAWindow(WebKitWebView* view) {
+  static constexpr auto allow = [](WebKitWebView* shown, bool isAllowed) {
+    webkit_settings_set_enable_back_forward_navigation_gestures(webkit_web_view_get_settings(shown),
+                                                                isAllowed);
+  };
+  const auto onRealize = +[](WebKitWebView* shown) { allow(shown, true); };
+  const auto onUnrealize = +[](WebKitWebView* shown) { allow(shown, false); };
+  g_signal_connect(view, "realize", G_CALLBACK(onRealize), nullptr);
+  g_signal_connect(view, "unrealize", G_CALLBACK(onUnrealize), nullptr);
 }
 
 GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   const auto settings = makeSettings();
   gpointer view =
       g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session, "settings", settings.get(), nullptr);
+  allowGesturesInAWindow(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }
 
@@ -85,6 +98,7 @@ void DesktopBrowserModel::load(QuorvelRoute route) {
 }
 
 void DesktopBrowserModel::load(const std::string& address) {
+  requested_ = address;
   currentURLString = address;
   webkit_web_view_load_uri(webView(), address.c_str());
 }
@@ -162,16 +176,17 @@ NavigationChoice DesktopBrowserModel::settle(const NavigationRequest& asked) {
 NavigationRequest DesktopBrowserModel::request(WebKitNavigationAction* action, bool wantsWindow) const {
   const auto address =
       textOrNothing(webkit_uri_request_get_uri(webkit_navigation_action_get_request(action)));
-  // The page's own navigations have a type of their own or cannot name a file; what the program loads, it has
-  // announced in `currentURLString`.
+  // What a page does by itself has a type of its own or cannot name a file.
   const bool isDropped =
       webkit_navigation_action_get_navigation_type(action) == WEBKIT_NAVIGATION_TYPE_OTHER &&
-      address != *currentURLString;
+      address != requested_;
   return {address, wantsWindow, isDropped};
 }
 
 std::string DesktopBrowserModel::presentAddress() const {
-  return textOrNothing(webkit_web_view_get_uri(webView()));
+  const auto address = textOrNothing(webkit_web_view_get_uri(webView()));
+  // While a redirect to a mail address is being refused, the view names it as its own.
+  return choose({address}) == NavigationChoice::system ? "" : address;
 }
 
 } // namespace quorvel

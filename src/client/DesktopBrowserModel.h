@@ -68,6 +68,7 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   std::shared_ptr<SystemHandler> system_;
   WebSession session_;
   GObjectPointer<WebKitWebView> webView_;
+  std::string requested_; // the address of the last `load()`
   StallTimer stall_;
 };
 

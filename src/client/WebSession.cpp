@@ -8,9 +8,17 @@
 namespace quorvel {
 namespace {
 
-/// Whether the folder is there and private to the user, making it so where needed.
+/// Whether new folders can be made in this one; the engine gives up the whole program where it finds that it
+/// cannot.
+bool canHoldFolders(const std::string& path) {
+  std::string probe = Glib::build_filename(path, "probe-XXXXXX");
+  return g_mkdtemp_full(probe.data(), 0700) && g_rmdir(probe.c_str()) == 0;
+}
+
+/// Whether the folder is there, of use, and private to the user, making it so where needed.
 bool ensurePrivateFolder(const std::string& path) {
-  return g_mkdir_with_parents(path.c_str(), 0700) == 0 && g_chmod(path.c_str(), 0700) == 0;
+  return g_mkdir_with_parents(path.c_str(), 0700) == 0 && g_chmod(path.c_str(), 0700) == 0 &&
+         canHoldFolders(path);
 }
 
 GObjectPointer<WebKitNetworkSession> makeSession(const WebFolders& folders) {

@@ -1,0 +1,388 @@
+#include "ModelFixture.h"
+
+#include <fstream>
+
+namespace quorvel {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+using DesktopBrowserModelTest = ModelTest;
+
+TEST_F(DesktopBrowserModelTest, BeforeAnyNavigationEventTheFieldsHaveTheirInitialValues) {
+  EXPECT_EQ(*model->title, "Quorvel");
+  EXPECT_EQ(*model->currentURLString, "https://app.quorvel.example/agent.html?source=mac_app");
+  EXPECT_FALSE(model->canGoBack);
+  EXPECT_FALSE(model->canGoForward);
+  EXPECT_FALSE(model->isLoading);
+}
+
+TEST_F(DesktopBrowserModelTest, TheConstructorAsksForTheAgentPage) {
+  EXPECT_STREQ(webkit_web_view_get_uri(model->webView()), url(QuorvelRoute::agent).c_str());
+  EXPECT_TRUE(webkit_web_view_is_loading(model->webView()));
+  EXPECT_TRUE(model->isShowing(QuorvelRoute::agent));
+}
+
+TEST_F(DesktopBrowserModelTest, TheUserAgentIsTheEnginesOwnFollowedByTheProgramsName) {
+  show("/pricing.html");
+  ASSERT_FALSE(server.requests().empty());
+  EXPECT_THAT(server.requests().front().userAgent, EndsWith(" Quorvel Desktop"));
+  EXPECT_THAT(server.requests().front().userAgent, HasSubstr("AppleWebKit"));
+}
+
+TEST_F(DesktopBrowserModelTest, LoadSetsTheAddressAtOnceAndTheRestLater) {
+  waitForRest();
+  int announcements = 0;
+  model->objectWillChange().connect([&] { ++announcements; });
+  model->load(QuorvelRoute::connectors);
+  EXPECT_EQ(*model->currentURLString, url(QuorvelRoute::connectors));
+  EXPECT_EQ(announcements, 1);
+  EXPECT_TRUE(webkit_web_view_is_loading(model->webView()));
+  EXPECT_FALSE(model->isLoading) << "the view's state follows in a later turn of the main loop";
+}
+
+TEST_F(DesktopBrowserModelTest, EachUpdateAnnouncesTheFiveFieldsInOrderChangedOrNot) {
+  waitForRest();
+  using Fields = std::array<std::string, 5>;
+  const auto fields = [&] {
+    return Fields{model->canGoBack ? "back" : "", model->canGoForward ? "forward" : "",
+                  model->isLoading ? "loading" : "", model->currentURLString, model->title};
+  };
+  std::vector<Fields> seen;
+  model->objectWillChange().connect([&] { seen.push_back(fields()); });
+  const int announcedByLoad = 1;
+  show("/pricing.html");
+
+  ASSERT_GT(seen.size(), 5u);
+  ASSERT_EQ((seen.size() - announcedByLoad) % 5, 0u);
+  seen.push_back(fields());
+  for (std::size_t i = announcedByLoad; i + 1 < seen.size(); ++i) {
+    const auto mayChange = (i - announcedByLoad) % 5;
+    seen[i][mayChange] = seen[i + 1][mayChange];
+    EXPECT_EQ(seen[i], seen[i + 1]) << "announcement " << i << " is about field " << mayChange;
+  }
+}
+
+TEST_F(DesktopBrowserModelTest, UpdatesThatWaitAreDroppedWhenTheModelGoes) {
+  int announcements = 0;
+  model->load(server.address("/pricing.html"));
+  model->objectWillChange().connect([&] { ++announcements; });
+  GObject* view = G_OBJECT(model->webView());
+  gpointer watched = view;
+  g_object_add_weak_pointer(view, &watched);
+  model.reset();
+  EXPECT_TRUE(stage::waitUntil([&] { return watched == nullptr; })) << "the view goes with its model";
+  while (Glib::MainContext::get_default()->iteration(false))
+    ;
+  EXPECT_EQ(announcements, 0);
+}
+
+TEST_F(DesktopBrowserModelTest, TheTitleFollowsThePageAlsoWhenItComesLate) {
+  show("/pricing.html");
+  EXPECT_TRUE(stage::waitUntil([&] { return *model->title == "Pricing"; })) << *model->title;
+  runScript("document.title = 'Plans for you'");
+  EXPECT_TRUE(stage::waitUntil([&] { return *model->title == "Plans for you"; })) << *model->title;
+}
+
+TEST_F(DesktopBrowserModelTest, AnEmptyTitleIsKeptEmpty) {
+  show("/pricing.html");
+  server.page("/untitled.html", "<title></title><p>no title");
+  show("/untitled.html");
+  EXPECT_TRUE(stage::waitUntil([&] { return model->title->empty(); })) << *model->title;
+}
+
+TEST_F(DesktopBrowserModelTest, BackAndForwardWorkAfterAFragmentOfTheSameDocument) {
+  show("/agent.html");
+  ASSERT_FALSE(model->canGoBack);
+  show("/agent.html#connectorsCenter");
+  EXPECT_EQ(server.count("/agent.html"), 1) << "no new document is loaded";
+  EXPECT_TRUE(model->isShowing(QuorvelRoute::connectors));
+  EXPECT_TRUE(stage::waitUntil([&] { return model->canGoBack && !model->canGoForward; }));
+
+  model->goBack();
+  waitForAddress("/agent.html");
+  EXPECT_TRUE(stage::waitUntil([&] { return !model->canGoBack && model->canGoForward; }));
+  EXPECT_TRUE(model->isShowing(QuorvelRoute::agent));
+
+  model->goForward();
+  waitForAddress("/agent.html#connectorsCenter");
+  EXPECT_TRUE(stage::waitUntil([&] { return model->canGoBack && !model->canGoForward; }));
+}
+
+TEST_F(DesktopBrowserModelTest, APagesOwnPushStateShows) {
+  show("/agent.html");
+  runScript("history.pushState({}, '', '/agent.html?chat=7')");
+  waitForAddress("/agent.html?chat=7");
+  EXPECT_TRUE(stage::waitUntil([&] { return *model->canGoBack; }));
+  EXPECT_EQ(server.requests().size(), 1u);
+}
+
+TEST_F(DesktopBrowserModelTest, BackForwardAndReloadWithoutHistoryDoNothingHarmful) {
+  show("/agent.html");
+  model->goBack();
+  model->goForward();
+  settle();
+  EXPECT_EQ(*model->currentURLString, server.address("/agent.html"));
+  model->reload();
+  EXPECT_TRUE(stage::waitUntil([&] { return server.count("/agent.html") == 2; }));
+}
+
+TEST_F(DesktopBrowserModelTest, ALinkWithABlankTargetLoadsInTheSameViewAndBackReturns) {
+  server.page("/links.html", "<a id=a target=_blank href=/pricing.html>Plans</a>");
+  show("/links.html");
+  runScript("document.getElementById('a').click()");
+  waitForAddress("/pricing.html");
+  EXPECT_TRUE(stage::waitUntil([&] { return *model->canGoBack; }));
+  model->goBack();
+  waitForAddress("/links.html");
+}
+
+TEST_F(DesktopBrowserModelTest, AWindowOpenedByAScriptLoadsInTheSameViewAndBackReturns) {
+  show("/agent.html");
+  runScript("window.open('/pricing.html', 'plans', 'width=300')");
+  waitForAddress("/pricing.html");
+  EXPECT_TRUE(stage::waitUntil([&] { return *model->canGoBack; }));
+  model->goBack();
+  waitForAddress("/agent.html");
+}
+
+TEST_F(DesktopBrowserModelTest, AWindowOpenedWithoutAnAddressDoesNothing) {
+  show("/agent.html");
+  runScript("window.open(); window.open(''); window.open('about:blank')");
+  settle();
+  EXPECT_EQ(*model->currentURLString, server.address("/agent.html"));
+  EXPECT_FALSE(model->canGoBack);
+  EXPECT_EQ(server.requests().size(), 1u);
+}
+
+/// Every way a page can come to a mail or telephone address, in a page that `go()` sets off.
+struct WayOut {
+  const char* name;
+  const char* html;
+  const char* address;
+};
+
+class WaysOut : public ModelTest, public ::testing::WithParamInterface<WayOut> {};
+
+TEST_P(WaysOut, ReachTheSystemAndNeverTheView) {
+  server.redirect("/redirect", GetParam().address);
+  server.page("/links.html", GetParam().html);
+  show("/links.html");
+  std::vector<std::string> shown;
+  model->objectWillChange().connect([&] { shown.push_back(model->currentURLString); });
+  runScript("go()");
+  ASSERT_TRUE(stage::waitUntil([&] { return !system->opened.empty(); }));
+  waitForRest();
+  shown.push_back(model->currentURLString);
+
+  EXPECT_THAT(system->opened, ElementsAre(GetParam().address));
+  EXPECT_THAT(shown, Not(Contains(HasSubstr(GetParam().address))));
+  EXPECT_EQ(*model->currentURLString, server.address("/links.html"));
+  EXPECT_STREQ(webkit_web_view_get_uri(model->webView()), server.address("/links.html").c_str());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    MailAndTelephone, WaysOut,
+    ::testing::Values(
+        WayOut{"PlainLink", "<a id=a href='mailto:a@b.example'>x</a><script>go = () => a.click()</script>",
+               "mailto:a@b.example"},
+        WayOut{"PlainTelephoneLink",
+               "<a id=a href='tel:+441632960000'>x</a><script>go = () => a.click()</script>",
+               "tel:+441632960000"},
+        WayOut{"UpperCaseLink",
+               "<a id=a href='MAILTO:a@b.example'>x</a><script>go = () => a.click()</script>",
+               "mailto:a@b.example"},
+        WayOut{"BlankTargetLink",
+               "<a id=a target=_blank href='mailto:a@b.example'>x</a><script>go = () => a.click()</script>",
+               "mailto:a@b.example"},
+        WayOut{"WindowOfAScript", "<script>go = () => window.open('tel:+441632960000') && 0</script>",
+               "tel:+441632960000"},
+        WayOut{"LocationSetByAScript", "<script>go = () => { location.href = 'mailto:a@b.example' }</script>",
+               "mailto:a@b.example"},
+        WayOut{"InnerFrame",
+               "<iframe id=f></iframe><script>go = () => { f.src = 'mailto:a@b.example' }</script>",
+               "mailto:a@b.example"},
+        WayOut{"Redirect", "<script>go = () => { location.href = '/redirect' }</script>",
+               "mailto:a@b.example"}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+TEST_F(DesktopBrowserModelTest, ALinkToAForeignSiteOpensInsideAndCanBeHandedToTheBrowser) {
+  const auto foreign = server.address("/pricing.html", "localhost");
+  server.page("/links.html", "<a id=a href='" + foreign + "'>elsewhere</a>");
+  show("/links.html");
+  runScript("document.getElementById('a').click()");
+  ASSERT_TRUE(stage::waitUntil([&] { return *model->currentURLString == foreign; }));
+  EXPECT_THAT(system->opened, IsEmpty());
+  model->openExternal();
+  EXPECT_THAT(system->opened, ElementsAre(foreign));
+}
+
+TEST_F(DesktopBrowserModelTest, AfterThePagesProcessDiedTheAddressStaysAndReloadBringsThePageBack) {
+  show("/pricing.html");
+  webkit_web_view_terminate_web_process(model->webView());
+  ASSERT_TRUE(stage::waitUntil([&] { return *webkit_web_view_get_uri(model->webView()) == '\0'; }));
+  while (Glib::MainContext::get_default()->iteration(false))
+    ;
+  EXPECT_EQ(*model->currentURLString, server.address("/pricing.html"));
+  EXPECT_TRUE(model->isShowing(QuorvelRoute::pricing));
+  model->openExternal();
+  EXPECT_THAT(system->opened, ElementsAre(url(QuorvelRoute::agent))) << "the view itself has no address";
+
+  model->reload();
+  EXPECT_TRUE(stage::waitUntil([&] { return server.count("/pricing.html") == 2; }));
+  waitForAddress("/pricing.html");
+}
+
+TEST_F(DesktopBrowserModelTest, AFailedLoadEndsTheLoadingStateAndTheAddressIsWhatTheViewReports) {
+  const std::vector<std::string> addresses{"http://127.0.0.1:9/refused.html", "http://nowhere.invalid/",
+                                           server.address("/missing.html"), "nonsense://address"};
+  for (const auto& address : addresses) {
+    model->load(address);
+    EXPECT_EQ(*model->currentURLString, address);
+    waitForRest();
+    EXPECT_EQ(*model->currentURLString, webkit_web_view_get_uri(model->webView())) << address;
+  }
+}
+
+TEST_F(DesktopBrowserModelTest, AServerErrorEndsTheLoadingState) {
+  server.answer("/broken.html", [](SoupServerMessage* message) {
+    soup_server_message_set_status(message, SOUP_STATUS_INTERNAL_SERVER_ERROR, nullptr);
+  });
+  model->load(server.address("/broken.html"));
+  waitForRest();
+  EXPECT_EQ(server.count("/broken.html"), 1);
+}
+
+TEST_F(DesktopBrowserModelTest, AConnectionThatBreaksInMidBodyEndsTheLoadingState) {
+  server.hangUpInMidBody("/half.html");
+  model->load(server.address("/half.html"));
+  ASSERT_TRUE(stage::waitUntil([&] { return server.count("/half.html") > 0; }));
+  waitForRest();
+}
+
+TEST_F(DesktopBrowserModelTest, AServerThatSaysNothingEndsTheLoadingStateAfterThirtySeconds) {
+  show("/agent.html");
+  EXPECT_FALSE(timer.isRunning()) << "nothing is loading";
+  server.silence("/silent.html");
+  model->load(server.address("/silent.html"));
+  ASSERT_TRUE(stage::waitUntil([&] { return server.count("/silent.html") > 0 && *model->isLoading; }));
+  ASSERT_TRUE(timer.isRunning());
+  EXPECT_EQ(timer.lastDelay, std::chrono::seconds(30));
+  timer.letOff();
+  waitForRest();
+  EXPECT_EQ(*model->currentURLString, server.address("/agent.html")) << "the page that is still on screen";
+}
+
+TEST_F(DesktopBrowserModelTest, EachPieceOfAPageThatArrivesStartsTheThirtySecondsAnew) {
+  SoupServerMessage* streamed = nullptr;
+  server.answer("/slow.html", [&](SoupServerMessage* message) {
+    soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
+    auto* headers = soup_server_message_get_response_headers(message);
+    soup_message_headers_set_encoding(headers, SOUP_ENCODING_CHUNKED);
+    soup_message_headers_set_content_type(headers, "text/html", nullptr);
+    streamed = message;
+    soup_server_message_pause(message);
+  });
+  const auto send = [&](const std::string& text) {
+    auto* body = soup_server_message_get_response_body(streamed);
+    soup_message_body_append(body, SOUP_MEMORY_COPY, text.data(), text.size());
+    soup_server_message_unpause(streamed);
+  };
+  show("/agent.html");
+  model->load(server.address("/slow.html"));
+  ASSERT_TRUE(stage::waitUntil([&] { return streamed != nullptr; }));
+  auto trickle = Glib::signal_timeout().connect([&] { return send(std::string(4000, 'x')), true; }, 100);
+  const int before = timer.starts;
+  EXPECT_TRUE(stage::waitUntil([&] { return timer.starts >= before + 4; }));
+  EXPECT_TRUE(timer.isRunning());
+  trickle.disconnect();
+  soup_message_body_complete(soup_server_message_get_response_body(streamed));
+  soup_server_message_unpause(streamed);
+  waitForRest();
+  EXPECT_FALSE(timer.isRunning());
+}
+
+TEST_F(DesktopBrowserModelTest, ASignInAndLocalStorageSurviveARestart) {
+  server.answer("/signin", [](SoupServerMessage* message) {
+    soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
+    soup_message_headers_append(soup_server_message_get_response_headers(message), "Set-Cookie",
+                                "session=abc; Max-Age=86400; Path=/");
+    soup_server_message_set_response(message, "text/html", SOUP_MEMORY_STATIC, "signed in", 9);
+  });
+  show("/signin");
+  runScript("localStorage.setItem('draft', 'kept')");
+  settle();
+  const auto hasStored = [&](const char* file, const std::string& text) {
+    std::ifstream stream(folder / "user" / "data" / file, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(stream), {}).find(text) != std::string::npos;
+  };
+  ASSERT_TRUE(stage::waitUntil([&] { return hasStored("cookies.sqlite", "session"); }));
+  start();
+  show("/agent.html");
+  EXPECT_EQ(server.requests().back().cookies, "session=abc");
+  runScript("document.title = localStorage.getItem('draft')");
+  EXPECT_TRUE(stage::waitUntil([&] { return *model->title == "kept"; })) << *model->title;
+}
+
+TEST_F(DesktopBrowserModelTest, WhatIsKeptIsPrivateToTheUser) {
+  using std::filesystem::perms;
+  for (const char* name : {"data", "cache"})
+    EXPECT_EQ(status(folder / "user" / name).permissions(), perms::owner_all) << name;
+}
+
+TEST_F(DesktopBrowserModelTest, FoldersThatWereOpenToOthersAreClosed) {
+  create_directories(folder / "open" / "data");
+  permissions(folder / "open" / "data", std::filesystem::perms(0755));
+  start("open");
+  EXPECT_EQ(status(folder / "open" / "data").permissions(), std::filesystem::perms::owner_all);
+}
+
+TEST_F(DesktopBrowserModelTest, WhereNothingCanBeKeptThePagesStillLoad) {
+  std::ofstream(folder / "blocked") << "a file in the way of the folders";
+  start("blocked");
+  show("/pricing.html");
+}
+
+TEST_F(DesktopBrowserModelTest, AFileDroppedOnThePageDoesNotReplaceIt) {
+  show("/agent.html");
+  std::ofstream(folder / "dropped.html") << "<title>Dropped</title>";
+  // What the engine does with a drop that the page does not take.
+  webkit_web_view_load_uri(model->webView(), ("file://" + (folder / "dropped.html").string()).c_str());
+  waitForRest();
+  EXPECT_EQ(*model->currentURLString, server.address("/agent.html"));
+  EXPECT_EQ(*model->title, "Agent");
+  EXPECT_FALSE(model->canGoBack);
+}
+
+TEST_F(DesktopBrowserModelTest, ADownloadNeverReplacesAFile) {
+  const auto downloads = folder / "Downloads";
+  create_directories(downloads);
+  create_directories(std::filesystem::path(Glib::get_user_config_dir()));
+  std::ofstream(Glib::build_filename(Glib::get_user_config_dir(), "user-dirs.dirs"))
+      << "XDG_DOWNLOAD_DIR=" << downloads << "\n";
+  g_reload_user_special_dirs_cache();
+  std::ofstream(downloads / "invoice.pdf") << "the user's own";
+  server.answer("/invoice.pdf", [](SoupServerMessage* message) {
+    soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
+    soup_server_message_set_response(message, "application/pdf", SOUP_MEMORY_STATIC, "new", 3);
+  });
+  server.page("/links.html", "<a id=a download href=/invoice.pdf>x</a>");
+  show("/links.html");
+  runScript("document.getElementById('a').click()");
+  const auto size = [&](const char* name) {
+    std::error_code none;
+    return std::filesystem::file_size(downloads / name, none);
+  };
+  EXPECT_TRUE(stage::waitUntil([&] { return size("invoice (1).pdf") == 3; }));
+  EXPECT_EQ(size("invoice.pdf"), std::string("the user's own").size());
+  waitForRest();
+  EXPECT_EQ(*model->currentURLString, server.address("/links.html"));
+}
+
+} // namespace
+} // namespace quorvel
