@@ -50,8 +50,7 @@ DesktopBrowserModel::DesktopBrowserModel()
 
 DesktopBrowserModel::DesktopBrowserModel(Surroundings surroundings)
     : system_(std::move(surroundings.system)), session_(surroundings.folders),
-      webView_(makeView(session_.get())),
-      stall_(std::move(surroundings.startTimer), [this] { webkit_web_view_stop_loading(webView()); }) {
+      webView_(makeView(session_.get())), watchdog_(webView(), std::move(surroundings.startTimer)) {
   watchView();
   load(QuorvelRoute::agent);
 }
@@ -70,11 +69,6 @@ void DesktopBrowserModel::watchView() {
   for (const char* signal : {"load-changed", "notify::is-loading", "notify::uri", "notify::title"})
     watch(webView(), signal, onState);
   watch(webkit_web_view_get_back_forward_list(webView()), "changed", onState);
-
-  const auto onProgress = [](DesktopBrowserModel* model) { model->noteProgress(); };
-  for (const char* signal :
-       {"load-changed", "notify::is-loading", "notify::estimated-load-progress", "resource-load-started"})
-    watch(webView(), signal, onProgress);
 
   const auto onFailure = +[](DesktopBrowserModel* model) -> gboolean {
     model->updateState();
@@ -138,13 +132,6 @@ void DesktopBrowserModel::copyState() {
   currentURLString = address.empty() ? *currentURLString : address;
   const char* pageTitle = webkit_web_view_get_title(webView());
   title = pageTitle ? pageTitle : "Quorvel";
-}
-
-void DesktopBrowserModel::noteProgress() {
-  if (webkit_web_view_is_loading(webView()))
-    stall_.restart();
-  else
-    stall_.stop();
 }
 
 bool DesktopBrowserModel::decide(WebKitPolicyDecision* decision, WebKitPolicyDecisionType type) {

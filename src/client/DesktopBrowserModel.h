@@ -1,11 +1,11 @@
 #pragma once
 
 #include "GObjectPointer.h"
+#include "LoadWatchdog.h"
 #include "NavigationPolicy.h"
 #include "ObservableObject.h"
 #include "Published.h"
 #include "QuorvelRoute.h"
-#include "StallTimer.h"
 #include "SystemHandler.h"
 #include "WebSession.h"
 
@@ -58,7 +58,6 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   void watchView();
   void updateState();
   void copyState();
-  void noteProgress();
   bool decide(WebKitPolicyDecision* decision, WebKitPolicyDecisionType type);
   void openWindow(WebKitNavigationAction* action);
   NavigationChoice settle(const NavigationRequest& asked);
@@ -69,7 +68,7 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   WebSession session_;
   GObjectPointer<WebKitWebView> webView_;
   std::string requested_; // the address of the last `load()`
-  StallTimer stall_;
+  LoadWatchdog watchdog_;
 };
 
 } // namespace quorvel

@@ -29,7 +29,7 @@ class ManualTimer {
     };
   }
   bool isRunning() const { return !task_.empty(); }
-  void letOff() { task_(); }
+  void letOff() { std::exchange(task_, {})(); }
 
   std::chrono::milliseconds lastDelay{0};
   int starts = 0;
