@@ -1,38 +1,74 @@
 #include "ModelSwitch.h"
 
+#include <gtkmm/eventcontrollerkey.h>
+#include <gtkmm/gestureclick.h>
+#include <utility>
+
 namespace quorvel {
 
 ModelSwitch::ModelSwitch(std::function<void(bool)> write) : write_(std::move(write)) {
-  signal_state_set().connect(sigc::mem_fun(*this, &ModelSwitch::onStateSet), false);
+  takeOverClicks();
+  takeOverActivation();
+  swallowRepeats();
 }
 
 void ModelSwitch::show(bool isOn) {
-  isOn_ = isOn;
-  // Setting a position, even the present one, would end the movement that a click has just begun.
-  if (get_active() == isOn && get_state() == isOn)
+  if (isOn == isOn_)
     return;
-  isShowing_ = true;
-  set_active(isOn);
-  set_state(isOn);
-  isShowing_ = false;
+  isOn_ = isOn;
+  if (get_mapped() && get_active() != isOn)
+    slide();
+  else
+    jump();
 }
 
-bool ModelSwitch::onStateSet(bool isOn) {
-  if (isShowing_)
-    return true;
-  write_(isOn);
-  returnUnlessAnswered();
-  return true;
-}
-
-void ModelSwitch::returnUnlessAnswered() {
-  // The first frame may begin before the model's views have been told, the second cannot.
-  add_tick_callback([this, frames = 0](const auto& /*frameClock*/) mutable {
-    if (++frames < 2)
-      return true;
-    show(isOn_);
-    return false;
+// The toolkit would move the switch first and tell of it when it has arrived; two clicks on the way count
+// one.
+void ModelSwitch::takeOverClicks() {
+  const auto click = Gtk::GestureClick::create();
+  click->set_propagation_phase(Gtk::PropagationPhase::CAPTURE);
+  auto& gesture = *click.get();
+  click->signal_pressed().connect(
+      [&gesture](int, double, double) { gesture.set_state(Gtk::EventSequenceState::CLAIMED); });
+  click->signal_released().connect([this](int, double x, double y) {
+    if (contains(x, y))
+      write_(!isOn_);
   });
+  add_controller(click);
+}
+
+void ModelSwitch::takeOverActivation() {
+  const auto onActivate = +[](GtkSwitch*, ModelSwitch* self) {
+    if (self->isSliding_)
+      return;
+    self->jump();
+    self->write_(!self->isOn_);
+  };
+  g_signal_connect(gobj(), "activate", G_CALLBACK(onActivate), this);
+}
+
+void ModelSwitch::swallowRepeats() {
+  const auto keys = Gtk::EventControllerKey::create();
+  keys->set_propagation_phase(Gtk::PropagationPhase::CAPTURE);
+  keys->signal_key_pressed().connect(
+      [this](guint key, guint, Gdk::ModifierType) { return std::exchange(heldKey_, key) == key; }, false);
+  keys->signal_key_released().connect([this](guint, guint, Gdk::ModifierType) { heldKey_ = 0; });
+  // The release of the key that moved the focus goes to another widget.
+  property_has_focus().signal_changed().connect([this] { heldKey_ = 0; });
+  add_controller(keys);
+}
+
+/// Stands at the value, ending a movement that is under way.
+void ModelSwitch::jump() {
+  set_active(isOn_);
+  set_state(isOn_);
+}
+
+/// Emitting this signal is the toolkit's way to move a switch to its other position.
+void ModelSwitch::slide() {
+  isSliding_ = true;
+  g_signal_emit_by_name(gobj(), "activate");
+  isSliding_ = false;
 }
 
 } // namespace quorvel

@@ -1,29 +1,33 @@
 #pragma once
 
 #include <functional>
-#include <glibmm/ustring.h>
 #include <gtkmm/switch.h>
 
 namespace quorvel {
 
 /// A switch that shows a value of a model and leaves it to the model what becomes of it.
 ///
-/// Each action of the user (a click, Space, Return) calls `write` once with the position asked for. The model
-/// answers through `show()` before the next frame; where it does not, the switch returns to what it showed.
+/// Each action of the user (a click, Space, Return; a held key is one) calls `write` once and at once with
+/// the position asked for. The switch itself moves only when `show()` is given another value, so a model that
+/// keeps its value leaves no trace.
 class ModelSwitch : public Gtk::Switch {
  public:
   explicit ModelSwitch(std::function<void(bool)> write);
 
-  /// Shows this value. Never calls `write`.
+  /// Shows this value: slides to it where the switch is on screen. Never calls `write`.
   void show(bool isOn);
 
  private:
-  bool onStateSet(bool isOn);
-  void returnUnlessAnswered();
+  void takeOverClicks();
+  void takeOverActivation();
+  void swallowRepeats();
+  void jump();
+  void slide();
 
   std::function<void(bool)> write_;
   bool isOn_ = false;
-  bool isShowing_ = false;
+  bool isSliding_ = false;
+  guint heldKey_ = 0;
 };
 
 } // namespace quorvel

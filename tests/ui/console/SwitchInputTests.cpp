@@ -1,0 +1,99 @@
+#include "ConnectorsView.h"
+
+#include "RealInput.h"
+#include "UiStage.h"
+
+namespace quorvel {
+namespace {
+
+using namespace quorvel::testing;
+
+/// The switch of one connector under the real pointer and keyboard.
+class SwitchInputTest : public ::testing::Test {
+ protected:
+  static constexpr std::size_t stripe = 4;
+
+  SwitchInputTest() {
+    store_.objectWillChange().connect([this] { ++announcements_; });
+  }
+  bool isConnected() { return store_.connectors->at(stripe).isConnected; }
+  /// How often the store was flipped once everything under way has settled.
+  int flips() {
+    drawFrame(view_);
+    return announcements_ / 2;
+  }
+  bool becomes(bool isOn) {
+    return waitUntil([&] { return isConnected() == isOn && switch_.get_state() == isOn; });
+  }
+
+  int announcements_ = 0;
+  WorkspaceStore store_;
+  ConnectorsView view_{store_};
+  UiStage stage_{view_, 852};
+  Gtk::Switch& switch_ = *all<Gtk::Switch>(view_)[stripe];
+};
+
+TEST_F(SwitchInputTest, AClickFlipsTheConnectorOnce) {
+  clickOn(switch_);
+  ASSERT_TRUE(becomes(true));
+  EXPECT_EQ(flips(), 1);
+  clickOn(switch_);
+  ASSERT_TRUE(becomes(false));
+  EXPECT_EQ(flips(), 2);
+}
+
+TEST_F(SwitchInputTest, TwoClicksInQuickSuccessionFlipTheConnectorTwice) {
+  clickOn(switch_);
+  clickOn(switch_);
+  ASSERT_TRUE(waitUntil([&] { return announcements_ == 4; }));
+  EXPECT_TRUE(becomes(false));
+  EXPECT_EQ(flips(), 2);
+}
+
+TEST_F(SwitchInputTest, SpaceAndReturnFlipTheConnectorOnceEachAndTheFocusStays) {
+  clickOn(switch_);
+  ASSERT_TRUE(becomes(true));
+  switch_.grab_focus();
+  strikeKey("space");
+  ASSERT_TRUE(becomes(false));
+  EXPECT_EQ(flips(), 2);
+  strikeKey("Return");
+  ASSERT_TRUE(becomes(true));
+  EXPECT_EQ(flips(), 3);
+  EXPECT_EQ(stage_.window().get_focus(), &switch_);
+}
+
+TEST_F(SwitchInputTest, AHeldKeyFlipsTheConnectorOnce) {
+  clickOn(switch_);
+  ASSERT_TRUE(becomes(true));
+  switch_.grab_focus();
+  int presses = 0;
+  const auto keys = Gtk::EventControllerKey::create();
+  keys->set_propagation_phase(Gtk::PropagationPhase::CAPTURE);
+  keys->signal_key_pressed().connect([&](guint, guint, Gdk::ModifierType) { return ++presses < 0; }, false);
+  stage_.window().add_controller(keys);
+  holdKey("space");
+  const bool hasRepeated = waitUntil([&] { return presses >= 4; });
+  releaseKey("space");
+  ASSERT_TRUE(hasRepeated);
+  ASSERT_TRUE(becomes(false));
+  EXPECT_EQ(flips(), 2);
+  strikeKey("space");
+  ASSERT_TRUE(becomes(true)) << "the next strike counts again";
+}
+
+TEST_F(SwitchInputTest, TabGoesFromSwitchToSwitchInTheOrderOfTheCards) {
+  const auto switches = all<Gtk::Switch>(view_);
+  clickOn(switch_);
+  switches.front()->grab_focus();
+  for (std::size_t i = 1; i < switches.size(); ++i) {
+    strikeKey("Tab");
+    EXPECT_TRUE(waitUntil([&] { return stage_.window().get_focus() == switches[i]; })) << i;
+  }
+  switches.front()->grab_focus();
+  strikeKey("Tab");
+  EXPECT_TRUE(waitUntil([&] { return stage_.window().get_focus() == switches[1]; })) << "and again";
+}
+
+} // namespace
+} // namespace quorvel
