@@ -90,6 +90,7 @@ TEST_F(SwitchInputTest, TabGoesFromSwitchToSwitchInTheOrderOfTheCards) {
     strikeKey("Tab");
     EXPECT_TRUE(waitUntil([&] { return stage_.window().get_focus() == switches[i]; })) << i;
   }
+  drawFrame(view_);
   switches.front()->grab_focus();
   strikeKey("Tab");
   EXPECT_TRUE(waitUntil([&] { return stage_.window().get_focus() == switches[1]; })) << "and again";
