@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorvel {
+
+/// What the toolkit and the engine have to be told about the machine's graphics before they start.
+class GraphicsEnvironment {
+ public:
+  struct Variable {
+    std::string name, value;
+    bool operator==(const Variable&) const = default;
+  };
+
+  /// `root` is the folder in which the machine's `dev`, `proc` and `sys` are looked for.
+  explicit GraphicsEnvironment(std::string root = "/");
+
+  /// The variables that this machine calls for.
+  std::vector<Variable> variables() const;
+  /// Sets them for this process and those it starts, except where the user has set one to anything already.
+  /// To be called before the toolkit starts and before there is a second thread.
+  void apply() const;
+
+ private:
+  bool hasRenderNode() const;
+  bool hasNvidiaDriver() const;
+
+  std::string root_;
+};
+
+} // namespace quorvel

@@ -1,0 +1,60 @@
+#include "ContentView.h"
+
+#include "DesktopBrowserModel.h"
+#include "DesktopClientSidebar.h"
+#include "DesktopClientToolbar.h"
+#include "Frame.h"
+#include "QuorvelWebView.h"
+#include "buttons.h"
+#include "observe.h"
+
+#include <gtkmm/overlay.h>
+#include <gtkmm/separator.h>
+
+namespace quorvel {
+namespace {
+
+/// The same widget, taking all the height its stack has.
+template <class Widget>
+Widget* tall(Widget* widget) {
+  widget->set_vexpand(true);
+  return widget;
+}
+
+Gtk::Spinner* loadingSpinner() {
+  auto* spinner = padded({.top = 10}, Gtk::make_managed<Gtk::Spinner>());
+  spinner->set_halign(Gtk::Align::CENTER);
+  spinner->set_valign(Gtk::Align::START);
+  spinner->set_can_target(false);
+  setAccessibleName(*spinner, "Loading");
+  return spinner;
+}
+
+Gtk::Widget* pageArea(DesktopBrowserModel& browser, Gtk::Spinner* spinner) {
+  auto* area = Gtk::make_managed<Gtk::Overlay>();
+  area->add_css_class("client-page");
+  area->set_child(*Gtk::make_managed<QuorvelWebView>(browser));
+  area->add_overlay(*spinner);
+  return tall(stretched(area));
+}
+
+} // namespace
+
+ContentView::ContentView(DesktopBrowserModel& browser)
+    : HStack(0), browser_(browser), spinner_(loadingSpinner()) {
+  add_css_class("client-window");
+  set_size_request(minimumWidth, minimumHeight);
+  auto* sidebar =
+      Gtk::make_managed<Frame>(Frame::Size{.width = 306}, *Gtk::make_managed<DesktopClientSidebar>(browser));
+  auto* line = Gtk::make_managed<Gtk::Separator>(Gtk::Orientation::VERTICAL);
+  auto* page = vstack(0, {Gtk::make_managed<DesktopClientToolbar>(browser), pageArea(browser, spinner_)});
+  add({sidebar, tall(line), page});
+  observe(browser, *this, &ContentView::refresh);
+}
+
+void ContentView::refresh() {
+  spinner_->set_visible(browser_.isLoading);
+  spinner_->set_spinning(browser_.isLoading);
+}
+
+} // namespace quorvel

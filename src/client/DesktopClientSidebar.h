@@ -1,0 +1,29 @@
+#pragma once
+
+#include "QuorvelRoute.h"
+#include "stacks.h"
+
+#include <utility>
+#include <vector>
+
+namespace quorvel {
+
+class DesktopBrowserModel;
+class DesktopClientNavRow;
+
+/// The service's destinations, of which those on screen are highlighted, between the logo and the status
+/// card.
+class DesktopClientSidebar : public VStack {
+ public:
+  /// The model has to outlive the sidebar.
+  explicit DesktopClientSidebar(DesktopBrowserModel& browser);
+
+ private:
+  Gtk::Widget* destinations();
+  void refresh();
+
+  DesktopBrowserModel& browser_;
+  std::vector<std::pair<QuorvelRoute, DesktopClientNavRow*>> rows_;
+};
+
+} // namespace quorvel
