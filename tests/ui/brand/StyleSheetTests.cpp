@@ -1,7 +1,6 @@
 #include "StyleSheet.h"
 
 #include "UiStage.h"
-#include "symbol.h"
 
 #include <gmock/gmock.h>
 #include <regex>
@@ -33,13 +32,6 @@ TEST(StyleSheet, IsReadWithoutAComplaint) {
   });
   provider->load_from_data(styleSheet());
   EXPECT_THAT(complaints, ::testing::IsEmpty());
-}
-
-TEST(Symbols, EverySymbolOfTheScreensIsFound) {
-  const auto theme = Gtk::IconTheme::get_for_display(Gdk::Display::get_default());
-  for (const auto* name :
-       {"message.fill", "safari.fill", "point.3.connected.trianglepath.dotted", "lock.shield"})
-    EXPECT_TRUE(theme->has_icon(std::string(name) + "-symbolic")) << name;
 }
 
 } // namespace

@@ -1,0 +1,78 @@
+// Draws every symbol at 16, 24 and 48 pixels, with its name, into one picture: symbol_sheet PICTURE
+#include "StyleSheet.h"
+#include "UiStage.h"
+#include "stacks.h"
+#include "symbol.h"
+
+#include <gtkmm.h>
+
+namespace quorvel {
+namespace {
+
+constexpr int columns = 4;
+
+std::vector<std::string> symbolNames() {
+  constexpr std::string_view ending = "-symbolic.svg";
+  std::vector<std::string> names;
+  for (const auto& file :
+       Gio::Resource::enumerate_children_global("/com/quorvel/Desktop/icons/scalable/actions"))
+    names.push_back(file.substr(0, file.size() - ending.size()));
+  std::ranges::sort(names);
+  return names;
+}
+
+Gtk::Widget* sized(std::string_view name, int pixels) {
+  auto* image = symbol(name, {});
+  image->set_pixel_size(pixels);
+  return image;
+}
+
+Gtk::Widget* specimen(const std::string& name) {
+  return padded(16, 12,
+                vstack(8, {hstack(16, {sized(name, 16), sized(name, 24), sized(name, 48)}),
+                           singleLine(name, {TextStyle::caption, {}, TextColor::secondaryInk},
+                                      Pango::EllipsizeMode::NONE)}));
+}
+
+Gtk::Widget* sheet() {
+  auto* grid = Gtk::make_managed<Gtk::Grid>();
+  grid->set_column_homogeneous();
+  int place = 0;
+  for (const auto& name : symbolNames()) {
+    grid->attach(*specimen(name), place % columns, place / columns);
+    ++place;
+  }
+  return grid;
+}
+
+void save(Gtk::Window& window, const std::string& picture) {
+  const auto snapshot = Gtk::Snapshot::create();
+  Gtk::WidgetPaintable::create(window)->snapshot(snapshot, window.get_width(), window.get_height());
+  auto* node = gtk_snapshot_to_node(snapshot->gobj());
+  auto* texture =
+      gsk_renderer_render_texture(gtk_native_get_renderer(GTK_NATIVE(window.gobj())), node, nullptr);
+  gsk_render_node_unref(node);
+  const bool isSaved = gdk_texture_save_to_png(texture, picture.c_str());
+  g_object_unref(texture);
+  if (!isSaved)
+    throw std::runtime_error("cannot write " + picture);
+}
+
+} // namespace
+} // namespace quorvel
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    g_printerr("usage: symbol_sheet PICTURE\n");
+    return 2;
+  }
+  if (!gtk_init_check()) {
+    g_printerr("symbol_sheet: there is no display to draw on\n");
+    return 1;
+  }
+  const auto application = Gtk::Application::create();
+  quorvel::installStyle();
+  quorvel::testing::UiStage stage(*quorvel::sheet(), -1);
+  quorvel::testing::drawFrame(stage.window());
+  quorvel::save(stage.window(), argv[1]);
+}
