@@ -6,6 +6,7 @@
 #include "card.h"
 #include "observe.h"
 #include "text.h"
+#include "trailingTexts.h"
 
 #include <algorithm>
 #include <gtkmm/root.h>
@@ -34,7 +35,6 @@ class ApprovalRow : public VStack {
 
  private:
   Gtk::Widget* titleBlock();
-  Gtk::Widget* body();
   void showSteps(const std::vector<std::string>& steps);
 
   ApprovalItem item_;
@@ -60,18 +60,13 @@ ApprovalRow::ApprovalRow(const ApprovalItem& item, Decide approve, Decide pause)
       pause_(quorvel::button("Pause", ButtonStyle::bordered, [this, pause] { pause(item_); })),
       approve_(quorvel::button("Approve", ButtonStyle::prominent, [this, approve] { approve(item_); })) {
   applyCardStyle(*this);
-  add({padded(18, stretched(vstack(16, {titleBlock(), body(), steps_,
-                                        hstack(defaultSpacing, {hspacer(), pause_, approve_})})))});
+  add({padded(18, stretched(vstack(16, {titleBlock(), withTrailingTexts(summary_, 6, {agent_, source_}),
+                                        steps_, hstack(defaultSpacing, {hspacer(), pause_, approve_})})))});
   show(item);
 }
 
 Gtk::Widget* ApprovalRow::titleBlock() {
   return vstack(8, {title_, hstack(8, {state_, risk_})});
-}
-
-Gtk::Widget* ApprovalRow::body() {
-  return hstack(16, {summary_, hspacer(), vstack(6, {agent_, source_}, HorizontalAlignment::trailing)},
-                VerticalAlignment::top);
 }
 
 void ApprovalRow::show(const ApprovalItem& item) {

@@ -108,23 +108,6 @@ std::vector<std::string> texts(Gtk::Widget& root) {
   return result;
 }
 
-std::vector<std::string> cutTexts(Gtk::Widget& root) {
-  const auto isWhole = [&root](Gtk::Label& label) {
-    int width, height;
-    label.get_layout()->get_pixel_size(width, height);
-    const auto bounds = boundsIn(root, label);
-    return !label.get_layout()->is_ellipsized() && width <= label.get_width() &&
-           height <= label.get_height() && bounds.get_x() >= 0 &&
-           bounds.get_x() + bounds.get_width() <= root.get_width() && bounds.get_y() >= 0 &&
-           bounds.get_y() + bounds.get_height() <= root.get_height();
-  };
-  std::vector<std::string> cut;
-  for (auto* label : all<Gtk::Label>(root))
-    if (label->get_mapped() && !isWhole(*label))
-      cut.push_back(label->get_text());
-  return cut;
-}
-
 Gtk::Button* buttonNamed(Gtk::Widget& root, const Glib::ustring& name) {
   for (auto* button : all<Gtk::Button>(root)) {
     const auto labels = all<Gtk::Label>(*button);

@@ -52,8 +52,6 @@ std::vector<Widget*> all(Gtk::Widget& root);
 Gtk::Label* labelled(Gtk::Widget& root, const Glib::ustring& text);
 /// The texts of all labels that are shown, in order.
 std::vector<std::string> texts(Gtk::Widget& root);
-/// The texts that are not shown whole: shortened, larger than their room or reaching out of `root`.
-std::vector<std::string> cutTexts(Gtk::Widget& root);
 /// The button of which a label has this text, or whose tooltip it is.
 Gtk::Button* buttonNamed(Gtk::Widget& root, const Glib::ustring& name);
 

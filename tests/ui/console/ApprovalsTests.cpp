@@ -1,6 +1,5 @@
 #include "ApprovalsView.h"
 
-#include "LargeText.h"
 #include "StatusPill.h"
 #include "UiStage.h"
 #include "buttons.h"
@@ -206,15 +205,6 @@ TEST(Approvals, TheFocusLeavesForAnotherControlOfTheWindowAfterTheLastDecision) 
   click(*buttonNamed(*view, "Approve"));
   drawFrame(*column);
   EXPECT_EQ(stage.window().get_focus(), elsewhere);
-}
-
-TEST(Approvals, NothingIsCutAtOneAndAHalfTimesTheTextSize) {
-  const LargeText large;
-  WorkspaceStore store;
-  ApprovalsView view(store);
-  UiStage stage(view, 852);
-  EXPECT_EQ(view.get_width(), 852);
-  EXPECT_THAT(cutTexts(view), ElementsAre());
 }
 
 } // namespace

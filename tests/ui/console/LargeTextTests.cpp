@@ -1,8 +1,12 @@
 #include "AgentsView.h"
+#include "ApprovalsView.h"
 #include "BrowserWorkspaceView.h"
 #include "ConnectorsView.h"
+#include "OverviewView.h"
 #include "PricingView.h"
+#include "RequestsView.h"
 #include "SecurityView.h"
+#include "TextScale.h"
 #include "UiStage.h"
 
 namespace quorvel {
@@ -24,6 +28,9 @@ struct Screen {
   Gtk::Widget* (*make)(Models& models);
 };
 constexpr Screen screens[] = {
+    {"Overview", [](Models& m) -> Gtk::Widget* { return Gtk::make_managed<OverviewView>(m.store); }},
+    {"Requests", [](Models& m) -> Gtk::Widget* { return Gtk::make_managed<RequestsView>(m.store); }},
+    {"Approvals", [](Models& m) -> Gtk::Widget* { return Gtk::make_managed<ApprovalsView>(m.store); }},
     {"Agents", [](Models& m) -> Gtk::Widget* { return Gtk::make_managed<AgentsView>(m.store); }},
     {"Connectors", [](Models& m) -> Gtk::Widget* { return Gtk::make_managed<ConnectorsView>(m.store); }},
     {"Browser", [](Models&) -> Gtk::Widget* { return Gtk::make_managed<BrowserWorkspaceView>(); }},
@@ -32,25 +39,20 @@ constexpr Screen screens[] = {
     {"Plans", [](Models& m) -> Gtk::Widget* { return Gtk::make_managed<PricingView>(m.store); }},
 };
 
-/// The desktop's text size, as long as this object lives.
-struct TextScale {
-  explicit TextScale(double factor) { dpi = static_cast<int>(96 * 1024 * factor); }
-  ~TextScale() { dpi = before; }
-  Glib::PropertyProxy<int> dpi = Gtk::Settings::get_default()->property_gtk_xft_dpi();
-  int before = dpi;
-};
-
 bool isInside(const Gdk::Rectangle& inner, const Gtk::Widget& outer) {
   return inner.get_x() >= 0 && inner.get_y() >= 0 && inner.get_x() + inner.get_width() <= outer.get_width() &&
          inner.get_y() + inner.get_height() <= outer.get_height();
 }
 
-/// A text that is cut, higher than its room, or sticks out of a card or pill around it.
+/// A text that is cut, higher than its room, or sticks out of a card or pill around it. A text that keeps to
+/// one line may end in an ellipsis.
 bool isCut(Gtk::Widget& screen, Gtk::Label& label) {
   int needed, ignored;
-  label.measure(Gtk::Orientation::VERTICAL, label.get_width(), needed, ignored, ignored, ignored);
+  const int width = label.get_width() + label.get_margin_start() + label.get_margin_end();
+  label.measure(Gtk::Orientation::VERTICAL, width, needed, ignored, ignored, ignored);
   needed -= label.get_margin_top() + label.get_margin_bottom();
-  if (label.get_layout()->is_ellipsized() || label.get_height() < needed)
+  const bool isShortened = label.get_layout()->is_ellipsized() && !label.get_single_line_mode();
+  if (isShortened || label.get_height() < needed)
     return true;
   for (auto* outer = label.get_parent(); outer != screen.get_parent(); outer = outer->get_parent())
     if (!isInside(boundsIn(*outer, label), *outer))

@@ -1,7 +1,6 @@
 #include "OverviewView.h"
 
 #include "BrandMark.h"
-#include "LargeText.h"
 #include "MetricTile.h"
 #include "QuorvelBrand.h"
 #include "UiStage.h"
@@ -13,7 +12,6 @@ using namespace quorvel::testing;
 using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::IsSupersetOf;
 using ::testing::Not;
 
 class OverviewTest : public ::testing::Test {
@@ -311,18 +309,6 @@ TEST_F(OverviewTest, TheTilesStandInFourColumnsDownTo714PointsAndInFewerBelow) {
   stage_->resize(4 * 168 + 3 * 14 - 1);
   EXPECT_EQ(rowOf(2), rowOf(0));
   EXPECT_EQ(rowOf(3), rowOf(0) + all<MetricTile>(*view_).at(0)->get_height() + 14);
-}
-
-TEST(Overview, NothingIsCutAtOneAndAHalfTimesTheTextSize) {
-  const LargeText large;
-  WorkspaceStore store;
-  OverviewView view(store);
-  UiStage stage(view, 852);
-  EXPECT_EQ(view.get_width(), 852);
-  std::vector<std::string> titlesOfTheQueue;
-  for (const auto& request : *store.requests)
-    titlesOfTheQueue.push_back(request.title);
-  EXPECT_THAT(titlesOfTheQueue, IsSupersetOf(cutTexts(view))) << "these alone keep to one line";
 }
 
 } // namespace

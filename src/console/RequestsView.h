@@ -1,0 +1,22 @@
+#pragma once
+
+#include "LazyRows.h"
+#include "WorkspaceStore.h"
+#include "stacks.h"
+
+namespace quorvel {
+
+class RequestRow;
+
+/// Every request with its status, its progress and the path it has come. `store` outlives the view.
+class RequestsView : public VStack {
+ public:
+  explicit RequestsView(WorkspaceStore& store);
+
+ private:
+  void refresh();
+
+  LazyRows<RequestItem, RequestRow>* rows_;
+};
+
+} // namespace quorvel
