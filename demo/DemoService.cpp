@@ -63,6 +63,12 @@ void DemoService::onRequest(SoupServer*, SoupServerMessage* message, const char*
   static_cast<DemoService*>(service)->answer(message, path, query);
 }
 
+void DemoService::answerNotFound(SoupServerMessage* message) {
+  const auto page = pages_.find("/404.html");
+  respond(message, SOUP_STATUS_NOT_FOUND, "text/html; charset=utf-8",
+          page ? page->content : "<!doctype html><title>Not found</title><h1>There is no such page</h1>");
+}
+
 void DemoService::answer(SoupServerMessage* message, const std::string& path, GHashTable* query) {
   log_.write(describe(message));
   if (const auto reply = stagedReply(path))
@@ -70,8 +76,7 @@ void DemoService::answer(SoupServerMessage* message, const std::string& path, GH
   else if (const auto page = pages_.find(path))
     respond(message, SOUP_STATUS_OK, page->mediaType, page->content);
   else
-    respond(message, SOUP_STATUS_NOT_FOUND, "text/html; charset=utf-8",
-            "<!doctype html><title>Not found</title><h1>There is no such page</h1>");
+    answerNotFound(message);
 }
 
 } // namespace quorvel::demo

@@ -25,6 +25,8 @@ class DemoService {
   static void onRequest(SoupServer*, SoupServerMessage* message, const char* path, GHashTable* query,
                         gpointer service);
   void answer(SoupServerMessage* message, const std::string& path, GHashTable* query);
+  /// The pages' own /404.html, where they have one.
+  void answerNotFound(SoupServerMessage* message);
 
   PageFolders pages_;
   RequestLog log_;
