@@ -2,24 +2,14 @@
 
 #include "QuorvelBrand.h"
 #include "StatusPill.h"
+#include "TemporaryFolder.h"
 #include "UiStage.h"
-
-#include <filesystem>
 
 namespace quorvel {
 namespace {
 
 using namespace quorvel::testing;
 using ::testing::ElementsAre;
-namespace fs = std::filesystem;
-
-struct TemporaryFolder {
-  ~TemporaryFolder() { fs::remove_all(path); }
-  fs::path path = [] {
-    std::string name = fs::temp_directory_path() / "quorvel-trust-XXXXXX";
-    return fs::path(g_mkdtemp(name.data()));
-  }();
-};
 
 class SecurityTest : public ::testing::Test {
  protected:

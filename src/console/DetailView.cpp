@@ -1,0 +1,65 @@
+#include "DetailView.h"
+
+#include "AgentsView.h"
+#include "ApprovalsView.h"
+#include "BrowserWorkspaceView.h"
+#include "ConnectorsView.h"
+#include "OverviewView.h"
+#include "PricingView.h"
+#include "RequestsView.h"
+#include "SecurityView.h"
+#include "observe.h"
+
+#include <gtkmm/root.h>
+
+namespace quorvel {
+
+DetailView::DetailView(WorkspaceStore& store, Preferences& preferences)
+    : store_(store), preferences_(preferences) {
+  // Scrolls like any other area; it is only the bar that is never there.
+  set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::EXTERNAL);
+  observe(store, *this, &DetailView::refresh);
+}
+
+void DetailView::refresh() {
+  const WorkspaceSection section = store_.selectedSection;
+  if (shown_ == section)
+    return;
+  shown_ = section;
+  const bool focusMoves = holdsFocus();
+  auto* next = padded(28, screen(section));
+  set_child(*next);
+  get_vadjustment()->set_value(0);
+  if (focusMoves && !next->child_focus(Gtk::DirectionType::TAB_FORWARD))
+    grab_focus();
+}
+
+Gtk::Widget* DetailView::screen(WorkspaceSection section) {
+  switch (section) {
+  case WorkspaceSection::overview:
+    return Gtk::make_managed<OverviewView>(store_);
+  case WorkspaceSection::agents:
+    return Gtk::make_managed<AgentsView>(store_);
+  case WorkspaceSection::requests:
+    return Gtk::make_managed<RequestsView>(store_);
+  case WorkspaceSection::approvals:
+    return Gtk::make_managed<ApprovalsView>(store_);
+  case WorkspaceSection::connectors:
+    return Gtk::make_managed<ConnectorsView>(store_);
+  case WorkspaceSection::browser:
+    return Gtk::make_managed<BrowserWorkspaceView>();
+  case WorkspaceSection::security:
+    return Gtk::make_managed<SecurityView>(store_, preferences_);
+  case WorkspaceSection::pricing:
+    return Gtk::make_managed<PricingView>(store_);
+  }
+  g_assert_not_reached();
+}
+
+bool DetailView::holdsFocus() {
+  auto* root = get_root();
+  auto* focus = root ? root->get_focus() : nullptr;
+  return focus && (focus == this || focus->is_ancestor(*this));
+}
+
+} // namespace quorvel

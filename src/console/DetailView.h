@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Preferences.h"
+#include "WorkspaceStore.h"
+
+#include <gtkmm/scrolledwindow.h>
+#include <optional>
+
+namespace quorvel {
+
+/// The console's centre column: the screen of the selected section, in a scroll area without bars.
+///
+/// A screen is built when its section is turned to and gone, with whatever was typed into it, when another
+/// one is; it starts at its top. Where the focus was inside the old screen it goes to the first control of
+/// the new one, and otherwise stays where it is. Both models outlive the view.
+class DetailView : public Gtk::ScrolledWindow {
+ public:
+  DetailView(WorkspaceStore& store, Preferences& preferences);
+
+ private:
+  void refresh();
+  Gtk::Widget* screen(WorkspaceSection section);
+  bool holdsFocus();
+
+  WorkspaceStore& store_;
+  Preferences& preferences_;
+  std::optional<WorkspaceSection> shown_;
+};
+
+} // namespace quorvel
