@@ -73,6 +73,10 @@ std::vector<unsigned char> UiStage::picture() {
   return {surface->get_data(), surface->get_data() + size};
 }
 
+void UiStage::savePicture(const std::string& path) {
+  draw()->write_to_png(path);
+}
+
 bool waitUntil(const std::function<bool()>& condition) {
   bool isLate = false;
   const auto deadline = Glib::signal_timeout().connect([&] { return !(isLate = true); }, 5000);

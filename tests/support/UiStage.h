@@ -24,6 +24,8 @@ class UiStage {
   Color pixel(int x, int y);
   /// The whole of it, for comparing.
   std::vector<unsigned char> picture();
+  /// Writes the whole of it into a PNG file.
+  void savePicture(const std::string& path);
 
  private:
   Cairo::RefPtr<Cairo::ImageSurface> draw();

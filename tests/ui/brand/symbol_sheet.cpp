@@ -45,19 +45,6 @@ Gtk::Widget* sheet() {
   return grid;
 }
 
-void save(Gtk::Window& window, const std::string& picture) {
-  const auto snapshot = Gtk::Snapshot::create();
-  Gtk::WidgetPaintable::create(window)->snapshot(snapshot, window.get_width(), window.get_height());
-  auto* node = gtk_snapshot_to_node(snapshot->gobj());
-  auto* texture =
-      gsk_renderer_render_texture(gtk_native_get_renderer(GTK_NATIVE(window.gobj())), node, nullptr);
-  gsk_render_node_unref(node);
-  const bool isSaved = gdk_texture_save_to_png(texture, picture.c_str());
-  g_object_unref(texture);
-  if (!isSaved)
-    throw std::runtime_error("cannot write " + picture);
-}
-
 } // namespace
 } // namespace quorvel
 
@@ -73,6 +60,5 @@ int main(int argc, char** argv) {
   const auto application = Gtk::Application::create();
   quorvel::installStyle();
   quorvel::testing::UiStage stage(*quorvel::sheet(), -1);
-  quorvel::testing::drawFrame(stage.window());
-  quorvel::save(stage.window(), argv[1]);
+  stage.savePicture(argv[1]);
 }
