@@ -5,7 +5,7 @@
 namespace quorvel {
 
 Gtk::Widget* quorvelCard(Gtk::Widget* content, int padding) {
-  auto* card = Gtk::make_managed<Gtk::Box>();
+  auto* card = Gtk::make_managed<HStack>(0);
   applyCardStyle(*card);
   // The content fills its card, but the card is as keen on width as the content was.
   card->set_hexpand(content->compute_expand(Gtk::Orientation::HORIZONTAL));

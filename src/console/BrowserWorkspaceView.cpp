@@ -11,7 +11,7 @@ namespace {
 
 /// The content on a ground of its own: a capsule, a tinted panel.
 Gtk::Widget* onGround(std::initializer_list<const char*> cssClasses, Gtk::Widget* content) {
-  auto* ground = Gtk::make_managed<Gtk::Box>();
+  auto* ground = Gtk::make_managed<HStack>(0);
   for (const auto* cssClass : cssClasses)
     ground->add_css_class(cssClass);
   ground->append(*content);

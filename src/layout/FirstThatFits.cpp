@@ -1,7 +1,8 @@
 #include "FirstThatFits.h"
 
+#include "RowLayout.h"
+
 #include <algorithm>
-#include <gtk/gtk.h>
 
 namespace quorvel {
 namespace {
@@ -35,38 +36,10 @@ Request width(const Form& form) {
   return total;
 }
 
-/// The width of each member of a row: its natural width as far as there is room, and a share of what is left
-/// where it expands.
-std::vector<int> shares(const Form& row, int available) {
-  std::vector<GtkRequestedSize> sizes;
-  int left = available - gaps(row);
-  for (auto* member : row.members) {
-    const auto request = widthRequest(*member);
-    sizes.push_back({member, request.minimum, request.natural});
-    left -= request.minimum;
-  }
-  left = gtk_distribute_natural_allocation(std::max(0, left), static_cast<guint>(sizes.size()), sizes.data());
-
-  const auto expands = [](Gtk::Widget* member) {
-    return member->compute_expand(Gtk::Orientation::HORIZONTAL);
-  };
-  auto expanding = static_cast<int>(std::ranges::count_if(row.members, expands));
-  std::vector<int> widths;
-  for (std::size_t i = 0; i < row.members.size(); ++i) {
-    int share = 0;
-    if (expands(row.members[i])) {
-      share = left / expanding--;
-      left -= share;
-    }
-    widths.push_back(sizes[i].minimum_size + share);
-  }
-  return widths;
-}
-
 int height(const Form& form, int available) {
   int total = 0;
   if (isRow(form)) {
-    const auto widths = shares(form, available);
+    const auto widths = rowWidths(form.members, form.spacing, available);
     for (std::size_t i = 0; i < form.members.size(); ++i)
       total = std::max(total, heightRequest(*form.members[i], widths[i]).natural);
     return total;
@@ -112,7 +85,7 @@ void FirstThatFits::size_allocate_vfunc(int available, int height, int) {
 
 void FirstThatFits::place(const Form& form, int available, int height) {
   if (isRow(form)) {
-    const auto widths = shares(form, available);
+    const auto widths = rowWidths(form.members, form.spacing, available);
     int x = 0;
     for (std::size_t i = 0; i < form.members.size(); ++i) {
       form.members[i]->size_allocate(Gtk::Allocation(x, 0, widths[i], height), -1);

@@ -1,5 +1,7 @@
 #include "stacks.h"
 
+#include "RowLayout.h"
+
 #include <gtkmm/separator.h>
 
 namespace quorvel {
@@ -43,7 +45,9 @@ void VStack::add(Children children) {
 }
 
 HStack::HStack(int spacing, VerticalAlignment alignment)
-    : Gtk::Box(Gtk::Orientation::HORIZONTAL, spacing), alignment_(alignment) {}
+    : Gtk::Box(Gtk::Orientation::HORIZONTAL), alignment_(alignment) {
+  set_layout_manager(RowLayout::create(spacing));
+}
 
 void HStack::add(Children children) {
   for (auto* child : children) {

@@ -26,7 +26,8 @@ class VStack : public Gtk::Box {
 };
 
 /// Children side by side, `spacing` points apart. A child that does not expand downwards keeps its natural
-/// height and stands at `alignment`; one that does gets the whole height.
+/// height and stands at `alignment`; one that does gets the whole height. The spacing is fixed here: the
+/// box's own properties have no effect.
 class HStack : public Gtk::Box {
  public:
   explicit HStack(int spacing, VerticalAlignment alignment = VerticalAlignment::centre);

@@ -51,6 +51,50 @@ TEST(Stacks, ChildrenOfARowStandAtItsAlignment) {
   EXPECT_EQ(boundsIn(*lowered, *low).get_y(), 40);
 }
 
+/// Higher the narrower it is, as a text that wraps; counts the widths that it was tried in.
+class CountingText : public Container {
+ public:
+  mutable int tries = 0;
+
+ protected:
+  void measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
+                     int& minimumBaseline, int& naturalBaseline) const override {
+    minimumBaseline = naturalBaseline = -1;
+    ++tries;
+    minimum = natural = orientation == Gtk::Orientation::HORIZONTAL ? 100 : 4000 / std::max(forSize, 100);
+    if (orientation == Gtk::Orientation::HORIZONTAL)
+      natural = 400;
+  }
+};
+
+TEST(Stacks, ARowTriesATextInNoMoreWidthsThanItCanHave) {
+  auto* text = Gtk::make_managed<CountingText>();
+  auto* stack = hstack(10, {text, block(90, 10)});
+  Gtk::Box owner;
+  owner.append(*stack);
+  EXPECT_EQ(heightRequest(*stack, 350).natural, 4000 / 250);
+  EXPECT_LE(text->tries, 3);
+}
+
+TEST(Stacks, ARowIsMirroredWhereTheWritingIs) {
+  auto* first = block(30, 10);
+  auto* last = block(40, 10);
+  auto* stack = hstack(12, {first, hspacer(), last});
+  stack->set_direction(Gtk::TextDirection::RTL);
+  UiStage stage(*stack, 300);
+  EXPECT_EQ(boundsIn(*stack, *first).get_x(), 270);
+  EXPECT_EQ(boundsIn(*stack, *last).get_x(), 0);
+}
+
+TEST(Stacks, AHiddenChildOfARowTakesNoRoom) {
+  auto* hidden = block(50, 10);
+  hidden->set_visible(false);
+  auto* last = block(40, 10);
+  auto* stack = hstack(12, {block(30, 10), hidden, last});
+  UiStage stage(*stack, 300);
+  EXPECT_EQ(boundsIn(*stack, *last).get_x(), 42);
+}
+
 TEST(Frame, KeepsItsWidthWhateverTheChildWouldLike) {
   auto* label =
       Gtk::make_managed<Gtk::Label>("A sentence that would rather be on one long line than on several.");
