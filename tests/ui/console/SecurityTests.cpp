@@ -98,7 +98,7 @@ TEST_F(SecurityTest, EachSwitchWritesItsOwnKeyAtOnceAndItsIconFollows) {
   }
 }
 
-TEST_F(SecurityTest, AFlipInAnotherWindowOrProgramIsShownHere) {
+TEST_F(SecurityTest, AFlipInAnotherWindowIsShownHere) {
   Preferences elsewhere(file_);
   elsewhere.set(PreferenceKey::requireApprovalForSpend, false);
   ASSERT_TRUE(waitUntil([&] { return !switchOf(spend).get_state(); }));
@@ -108,7 +108,16 @@ TEST_F(SecurityTest, AFlipInAnotherWindowOrProgramIsShownHere) {
   EXPECT_EQ(iconOf(spend), closedShield);
 }
 
-TEST_F(SecurityTest, AFlipHereReachesAnotherWindowOrProgram) {
+TEST_F(SecurityTest, AFlipInAnotherProgramIsShownHere) {
+  const std::vector<std::string> program{PREFERENCES_PEER, file_, "flip", "Quorvel.keepActivityHistory", "1"};
+  std::string said;
+  Glib::spawn_sync("", program, Glib::SpawnFlags::DEFAULT, {}, &said);
+  ASSERT_EQ(said, "off\n");
+  ASSERT_TRUE(waitUntil([&] { return !switchOf(history).get_state(); }));
+  EXPECT_EQ(iconOf(history), openLock);
+}
+
+TEST_F(SecurityTest, AFlipHereReachesAnotherWindow) {
   const Preferences elsewhere(file_);
   flip(messages);
   EXPECT_TRUE(waitUntil([&] { return !elsewhere.isOn(PreferenceKey::requireApprovalForCustomerMessages); }));
