@@ -87,7 +87,7 @@ std::vector<std::size_t> LazyColumn::wantedPlaces() const {
   std::vector<std::size_t> wanted(last - first + 1);
   std::iota(wanted.begin(), wanted.end(), first);
   forEachRow([&](const Gtk::Widget& row, std::size_t place) {
-    if (&row == const_cast<LazyColumn*>(this)->get_focus_child() && (place < first || place > last))
+    if (&row == get_focus_child() && (place < first || place > last))
       wanted.insert(place < first ? wanted.begin() : wanted.end(), place);
   });
   return wanted;
