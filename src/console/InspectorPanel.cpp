@@ -115,6 +115,8 @@ PriorityCard::PriorityCard(const ApprovalItem& approval)
       title_(text("", {TextStyle::callout, FontWeight::medium}, 2)) {
   add_css_class("panel-raised");
   add_css_class("outlined");
+  agent_->set_xalign(1);
+  agent_->set_justify(Gtk::Justification::RIGHT);
   add({padded(12, vstack(8, {hstack(defaultSpacing, {state_, hspacer(), agent_}), title_}))});
   show(approval);
 }

@@ -46,7 +46,7 @@ std::unique_ptr<Gtk::Window> ConsoleApplication::makeWindow() {
   header->add_css_class("slim");
   window->set_titlebar(*header);
   window->set_child(*Gtk::make_managed<ConsoleColumns>(store_, preferences_));
-  window->set_default_size(1500, 920);
+  window->set_default_size(1560, 960);
   return window;
 }
 

@@ -6,6 +6,7 @@
 #include "QuorvelBrand.h"
 #include "SidebarView.h"
 #include "TemporaryFolder.h"
+#include "TextScale.h"
 #include "UiStage.h"
 
 namespace quorvel {
@@ -73,6 +74,15 @@ TEST_F(ColumnsTest, WhatAWiderWindowHasMoreGoesToTheCentre) {
   EXPECT_EQ(bounds<DetailView>().get_width(), 1600 - 272 - 320);
   EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
   EXPECT_EQ(bounds<InspectorPanel>().get_height(), 1000);
+}
+
+TEST_F(ColumnsTest, TheColumnsKeepTheirWidthsInLargeText) {
+  const TextScale scale(1.5);
+  stage_.resize(1600, 1000);
+  EXPECT_EQ(bounds<SidebarView>().get_width(), 272);
+  EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
+  EXPECT_LE(widthRequest(*all<SidebarView>(columns_).front()).minimum, 272);
+  EXPECT_LE(widthRequest(*all<InspectorPanel>(columns_).front()).minimum, 320);
 }
 
 TEST_F(ColumnsTest, TheInspectorFollowsTheStoreWhileItIsHidden) {
