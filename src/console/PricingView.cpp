@@ -87,32 +87,25 @@ Gtk::Widget* comparisonTile(const Glib::ustring& name, const Glib::ustring& deta
                             text(detail, {TextStyle::callout, {}, TextColor::secondaryInk})})));
 }
 
-/// Tiles of equal width, whatever their texts.
-Gtk::Widget* equalRow(Children tiles) {
-  auto* row = Gtk::make_managed<Gtk::Box>(Gtk::Orientation::HORIZONTAL, gap);
-  row->set_homogeneous(true);
-  for (auto* tile : tiles) {
-    tile->set_valign(Gtk::Align::START);
-    row->append(*tile);
-  }
-  return row;
-}
-
 Gtk::Widget* comparison() {
-  return equalRow(
-      {comparisonTile(
-           "Quorvel",
-           "Always-on agents, connected apps, browser context, phone/message access, and approvals.",
-           AccentTone::green),
-       comparisonTile(
-           "General AI chat",
-           "Useful responses, but follow-up, routing, app context, and approval tracking stay manual.",
-           AccentTone::slate),
-       comparisonTile(
-           "Developer tools",
-           "Strong for software work, while Quorvel focuses on operations, customers, ads, orders, "
-           "and finance.",
-           AccentTone::blue)});
+  auto* tiles =
+      hstack(gap,
+             {comparisonTile(
+                  "Quorvel",
+                  "Always-on agents, connected apps, browser context, phone/message access, and approvals.",
+                  AccentTone::green),
+              comparisonTile(
+                  "General AI chat",
+                  "Useful responses, but follow-up, routing, app context, and approval tracking stay manual.",
+                  AccentTone::slate),
+              comparisonTile(
+                  "Developer tools",
+                  "Strong for software work, while Quorvel focuses on operations, customers, ads, orders, "
+                  "and finance.",
+                  AccentTone::blue)},
+             VerticalAlignment::top);
+  tiles->setEqualWidths();
+  return tiles;
 }
 
 } // namespace

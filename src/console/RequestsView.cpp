@@ -95,7 +95,7 @@ Gtk::Widget* RequestRow::head() {
 
 Gtk::Widget* RequestRow::path() {
   auto* path = stretched(hstack(10, {}));
-  path->set_homogeneous(true);
+  path->setEqualWidths();
   for (std::size_t i = 0; i < steps.size(); ++i) {
     steps_[i] = Gtk::make_managed<StepPill>(steps[i].title, false, steps[i].tone);
     path->add({steps_[i]});

@@ -1,7 +1,5 @@
 #include "RowLayout.h"
 
-#include "Container.h"
-
 #include <algorithm>
 #include <gtk/gtk.h>
 
@@ -21,25 +19,13 @@ int gaps(const std::vector<Gtk::Widget*>& members, int spacing) {
   return spacing * std::max(0, static_cast<int>(members.size()) - 1);
 }
 
-Request totalWidth(const std::vector<Gtk::Widget*>& members, int spacing) {
-  Request total{gaps(members, spacing), gaps(members, spacing)};
-  for (const auto* member : members) {
-    const auto request = widthRequest(*member);
-    total.minimum += request.minimum;
-    total.natural += request.natural;
+std::vector<int> equalWidths(std::size_t count, int available) {
+  std::vector<int> widths;
+  for (auto left = static_cast<int>(count); left > 0; --left) {
+    widths.push_back(available / left);
+    available -= widths.back();
   }
-  return total;
-}
-
-Request greatestHeight(const std::vector<Gtk::Widget*>& members, int spacing, int available) {
-  Request greatest;
-  const auto widths = rowWidths(members, spacing, available);
-  for (std::size_t i = 0; i < members.size(); ++i) {
-    const auto request = heightRequest(*members[i], widths[i]);
-    greatest.minimum = std::max(greatest.minimum, request.minimum);
-    greatest.natural = std::max(greatest.natural, request.natural);
-  }
-  return greatest;
+  return widths;
 }
 
 } // namespace
@@ -76,6 +62,44 @@ Glib::RefPtr<RowLayout> RowLayout::create(int spacing) {
   return Glib::make_refptr_for_instance<RowLayout>(new RowLayout(spacing));
 }
 
+void RowLayout::setEqualWidths() {
+  areWidthsEqual_ = true;
+  layout_changed();
+}
+
+Request RowLayout::totalWidth(const Members& members) const {
+  Request sum, greatest;
+  for (const auto* member : members) {
+    const auto request = widthRequest(*member);
+    sum.minimum += request.minimum;
+    sum.natural += request.natural;
+    greatest.minimum = std::max(greatest.minimum, request.minimum);
+    greatest.natural = std::max(greatest.natural, request.natural);
+  }
+  const auto count = static_cast<int>(members.size());
+  const int between = gaps(members, spacing_);
+  if (areWidthsEqual_)
+    return {count * greatest.minimum + between, count * greatest.natural + between};
+  return {sum.minimum + between, sum.natural + between};
+}
+
+Request RowLayout::greatestHeight(const Members& members, int available) const {
+  Request greatest;
+  const auto given = widths(members, available);
+  for (std::size_t i = 0; i < members.size(); ++i) {
+    const auto request = heightRequest(*members[i], given[i]);
+    greatest.minimum = std::max(greatest.minimum, request.minimum);
+    greatest.natural = std::max(greatest.natural, request.natural);
+  }
+  return greatest;
+}
+
+std::vector<int> RowLayout::widths(const Members& members, int available) const {
+  if (areWidthsEqual_)
+    return equalWidths(members.size(), available - gaps(members, spacing_));
+  return rowWidths(members, spacing_, available);
+}
+
 Gtk::SizeRequestMode RowLayout::get_request_mode_vfunc(const Gtk::Widget&) const {
   return Gtk::SizeRequestMode::HEIGHT_FOR_WIDTH;
 }
@@ -84,22 +108,22 @@ void RowLayout::measure_vfunc(const Gtk::Widget& row, Gtk::Orientation orientati
                               int& natural, int& minimumBaseline, int& naturalBaseline) const {
   minimumBaseline = naturalBaseline = -1;
   const auto members = membersOf(row);
-  auto request = totalWidth(members, spacing_);
+  auto request = totalWidth(members);
   if (orientation == Gtk::Orientation::VERTICAL)
-    request = greatestHeight(members, spacing_, forSize < 0 ? request.natural : forSize);
+    request = greatestHeight(members, forSize < 0 ? request.natural : forSize);
   minimum = request.minimum;
   natural = request.natural;
 }
 
 void RowLayout::allocate_vfunc(const Gtk::Widget& row, int width, int height, int) {
   const auto members = membersOf(row);
-  const auto widths = rowWidths(members, spacing_, width);
+  const auto given = widths(members, width);
   const bool isMirrored = row.get_direction() == Gtk::TextDirection::RTL;
   int leading = 0;
   for (std::size_t i = 0; i < members.size(); ++i) {
-    const int x = isMirrored ? width - leading - widths[i] : leading;
-    members[i]->size_allocate(Gtk::Allocation(x, 0, widths[i], height), -1);
-    leading += widths[i] + spacing_;
+    const int x = isMirrored ? width - leading - given[i] : leading;
+    members[i]->size_allocate(Gtk::Allocation(x, 0, given[i], height), -1);
+    leading += given[i] + spacing_;
   }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Container.h"
+
 #include <gtkmm/layoutmanager.h>
 #include <vector>
 
@@ -13,6 +15,9 @@ class RowLayout : public Gtk::LayoutManager {
  public:
   static Glib::RefPtr<RowLayout> create(int spacing);
 
+  /// From now on every child has the same width, whatever it asks for beyond its minimum.
+  void setEqualWidths();
+
  protected:
   Gtk::SizeRequestMode get_request_mode_vfunc(const Gtk::Widget& row) const override;
   void measure_vfunc(const Gtk::Widget& row, Gtk::Orientation orientation, int forSize, int& minimum,
@@ -20,9 +25,15 @@ class RowLayout : public Gtk::LayoutManager {
   void allocate_vfunc(const Gtk::Widget& row, int width, int height, int baseline) override;
 
  private:
+  using Members = std::vector<Gtk::Widget*>;
+
   explicit RowLayout(int spacing);
+  Request totalWidth(const Members& members) const;
+  Request greatestHeight(const Members& members, int available) const;
+  std::vector<int> widths(const Members& members, int available) const;
 
   int spacing_;
+  bool areWidthsEqual_ = false;
 };
 
 /// The width of each member of a row that is `available` points wide: its natural width as far as there is

@@ -1,7 +1,5 @@
 #include "stacks.h"
 
-#include "RowLayout.h"
-
 #include <gtkmm/separator.h>
 
 namespace quorvel {
@@ -45,8 +43,12 @@ void VStack::add(Children children) {
 }
 
 HStack::HStack(int spacing, VerticalAlignment alignment)
-    : Gtk::Box(Gtk::Orientation::HORIZONTAL), alignment_(alignment) {
-  set_layout_manager(RowLayout::create(spacing));
+    : Gtk::Box(Gtk::Orientation::HORIZONTAL), alignment_(alignment), layout_(RowLayout::create(spacing)) {
+  set_layout_manager(layout_);
+}
+
+void HStack::setEqualWidths() {
+  layout_->setEqualWidths();
 }
 
 void HStack::add(Children children) {

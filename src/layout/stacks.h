@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RowLayout.h"
+
 #include <gtkmm/box.h>
 #include <initializer_list>
 
@@ -32,9 +34,12 @@ class HStack : public Gtk::Box {
  public:
   explicit HStack(int spacing, VerticalAlignment alignment = VerticalAlignment::centre);
   void add(Children children);
+  /// Gives every child the same width.
+  void setEqualWidths();
 
  private:
   VerticalAlignment alignment_;
+  Glib::RefPtr<RowLayout> layout_;
 };
 
 VStack* vstack(int spacing, Children children, HorizontalAlignment alignment = HorizontalAlignment::leading);

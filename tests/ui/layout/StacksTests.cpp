@@ -51,6 +51,20 @@ TEST(Stacks, ChildrenOfARowStandAtItsAlignment) {
   EXPECT_EQ(boundsIn(*lowered, *low).get_y(), 40);
 }
 
+TEST(Stacks, ARowOfEqualWidthsGivesEachChildTheSame) {
+  auto* first = stretched(block(30, 10));
+  auto* last = stretched(block(50, 10));
+  auto* stack = hstack(10, {first, last});
+  stack->setEqualWidths();
+  UiStage stage(*stack, 211);
+  EXPECT_EQ(first->get_width(), 100);
+  EXPECT_EQ(last->get_width(), 101);
+  EXPECT_EQ(boundsIn(*stack, *last).get_x(), 110);
+  EXPECT_EQ(widthRequest(*first).natural, 30);
+  stage.resize(20);
+  EXPECT_EQ(stack->get_width(), 110) << "none is narrower than the widest needs";
+}
+
 /// Higher the narrower it is, as a text that wraps; counts the widths that it was tried in.
 class CountingText : public Container {
  public:
