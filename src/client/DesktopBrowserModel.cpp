@@ -31,11 +31,20 @@ void allowGesturesInAWindow(WebKitWebView* view) {
   g_signal_connect(view, "unrealize", G_CALLBACK(onUnrealize), nullptr);
 }
 
+/// The engine keeps a text view inside its own for input methods. As a stop of the Tab key it would never be
+/// left.
+void keepTabMoving(WebKitWebView* view) {
+  for (auto* child = gtk_widget_get_first_child(GTK_WIDGET(view)); child;
+       child = gtk_widget_get_next_sibling(child))
+    gtk_widget_set_focusable(child, FALSE);
+}
+
 GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   const auto settings = makeSettings();
   gpointer view =
       g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session, "settings", settings.get(), nullptr);
   allowGesturesInAWindow(WEBKIT_WEB_VIEW(view));
+  keepTabMoving(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }
 
