@@ -1,0 +1,329 @@
+#include "ContentView.h"
+
+#include "DesktopClientNavRow.h"
+#include "DesktopClientSidebar.h"
+#include "DesktopClientToolbar.h"
+#include "LargeText.h"
+#include "ModelFixture.h"
+#include "QuorvelBrand.h"
+#include "QuorvelWebView.h"
+
+namespace quorvel {
+namespace {
+
+using stage::boundsIn;
+using stage::buttonNamed;
+using stage::IsColor;
+using stage::labelled;
+using stage::UiStage;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+MATCHER_P4(IsRectangle, x, y, width, height, "") {
+  *result_listener << arg.get_x() << ", " << arg.get_y() << ", " << arg.get_width() << " by "
+                   << arg.get_height();
+  return arg.get_x() == x && arg.get_y() == y && arg.get_width() == width && arg.get_height() == height;
+}
+
+/// The content of the client's window at its least size, on a real model.
+class ContentViewTest : public ModelTest {
+ protected:
+  void SetUp() override {
+    show("/agent.html");
+    open();
+  }
+  void TearDown() override { close(); }
+
+  void open() {
+    view = std::make_unique<ContentView>(*model);
+    screen = std::make_unique<UiStage>(*view, ContentView::minimumWidth, ContentView::minimumHeight);
+  }
+  void close() {
+    screen.reset();
+    view.reset();
+  }
+  /// Shows a page and what the model then says.
+  void showPage(const std::string& path) {
+    show(path);
+    stage::drawFrame(*view);
+  }
+
+  template <class Widget>
+  Widget& the() {
+    const auto found = stage::all<Widget>(*view);
+    EXPECT_EQ(found.size(), 1u);
+    return *found.front();
+  }
+  Gtk::Button& button(const char* name) { return *buttonNamed(*view, name); }
+  Gdk::Rectangle bounds(const Gtk::Widget& widget) { return boundsIn(*view, widget); }
+  std::vector<std::string> highlighted() {
+    std::vector<std::string> titles;
+    for (auto* row : stage::all<DesktopClientNavRow>(*view))
+      if (stage::isAccessiblySelected(*stage::all<Gtk::Button>(*row).front()))
+        titles.push_back(stage::texts(*row).front());
+    return titles;
+  }
+
+  std::unique_ptr<ContentView> view;
+  std::unique_ptr<UiStage> screen;
+};
+
+TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
+  EXPECT_THAT(
+      stage::texts(*view),
+      ElementsAre(
+          "Quorvel", "Desktop agent client", "+ New chat", "Live app", "Agent workspace",
+          "Chats and approvals", "Connectors", "Apps and access", "Browser workspace", "Page context",
+          "Voice agent", "Calls and scheduling", "Pricing", "Plans and billing", "Support",
+          "Help and contact", "LIVE BACKEND", "WebKit",
+          "This app is connected to app.quorvel.example, so sign-in, sessions, billing, connectors, and "
+          "the agent workspace run through the live service.",
+          server.address("/agent.html"), "Open externally"));
+  EXPECT_THAT(stage::cutTexts(*view), IsEmpty());
+}
+
+TEST_F(ContentViewTest, InLargeTextNothingIsCut) {
+  close();
+  const stage::LargeText large;
+  open();
+  EXPECT_THAT(stage::cutTexts(*view), IsEmpty());
+}
+
+TEST_F(ContentViewTest, AtTheLeastWidthTheSidebarKeepsItsWidthAndThePageTakesTheRest) {
+  EXPECT_THAT(bounds(the<DesktopClientSidebar>()), IsRectangle(0, 0, 306, 760));
+  const auto toolbar = bounds(the<DesktopClientToolbar>());
+  EXPECT_THAT(toolbar, IsRectangle(307, 0, 873, toolbar.get_height()));
+  EXPECT_THAT(bounds(the<QuorvelWebView>()),
+              IsRectangle(307, toolbar.get_height(), 873, 760 - toolbar.get_height()));
+  EXPECT_THAT(screen->pixel(306, 400), IsColor(Color{0.122, 0.123, 0.124})) << "the line on the background";
+}
+
+TEST_F(ContentViewTest, NothingFitsIntoLessThanTheLeastSize) {
+  ContentView another(*model);
+  int minimum = 0, ignored = 0;
+  another.measure(Gtk::Orientation::HORIZONTAL, -1, minimum, ignored, ignored, ignored);
+  EXPECT_EQ(minimum, 1180);
+  another.measure(Gtk::Orientation::VERTICAL, -1, minimum, ignored, ignored, ignored);
+  EXPECT_EQ(minimum, 760);
+}
+
+TEST_F(ContentViewTest, AWiderWindowGivesThePageTheWholeGain) {
+  screen->resize(1500, 900);
+  EXPECT_THAT(bounds(the<DesktopClientSidebar>()), IsRectangle(0, 0, 306, 900));
+  EXPECT_EQ(bounds(the<QuorvelWebView>()).get_width(), 1193);
+}
+
+TEST_F(ContentViewTest, TheSidebarsPartsStandWhereTheyBelong) {
+  EXPECT_THAT(bounds(button("+ New chat")),
+              IsRectangle(20, 82, 266, bounds(button("+ New chat")).get_height()));
+  const auto rows = stage::all<DesktopClientNavRow>(*view);
+  ASSERT_EQ(rows.size(), 6u);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const auto row = bounds(*stage::all<Gtk::Button>(*rows[i]).front());
+    EXPECT_EQ(row.get_x(), 12);
+    EXPECT_EQ(row.get_width(), 282);
+    if (i > 0) {
+      EXPECT_EQ(row.get_y(), bounds(*rows[i - 1]).get_y() + bounds(*rows[i - 1]).get_height() + 8);
+    }
+  }
+  auto* card = labelled(*view, "LIVE BACKEND")->get_parent()->get_parent()->get_parent();
+  const auto cardBounds = bounds(*card);
+  EXPECT_EQ(cardBounds.get_x(), 20);
+  EXPECT_EQ(cardBounds.get_width(), 266);
+  EXPECT_EQ(cardBounds.get_y() + cardBounds.get_height(), 760 - 18);
+}
+
+TEST_F(ContentViewTest, TheSidebarFadesFromItsTopColourToItsBottomOne) {
+  EXPECT_THAT(screen->pixel(2, 0), IsColor(Color{0.028, 0.022, 0.02}));
+  EXPECT_THAT(screen->pixel(2, 759), IsColor(Color{0.006, 0.006, 0.007}));
+}
+
+TEST_F(ContentViewTest, OnThePricingPageOnlyPricingIsHighlighted) {
+  EXPECT_THAT(highlighted(), ElementsAre("Agent workspace"));
+  showPage("/pricing.html");
+  EXPECT_THAT(highlighted(), ElementsAre("Pricing"));
+}
+
+TEST_F(ContentViewTest, OnAnotherSiteNoRowIsHighlightedAndTheFieldShowsItsAddress) {
+  server.page("/elsewhere", "<title>Elsewhere</title>");
+  showPage("/elsewhere");
+  EXPECT_THAT(highlighted(), IsEmpty());
+  EXPECT_TRUE(labelled(*view, server.address("/elsewhere")));
+}
+
+TEST_F(ContentViewTest, TheHighlightedRowIsRaisedAndOutlinedAndTheOthersHaveNoBox) {
+  auto* selected = buttonNamed(*view, "Agent workspace");
+  const auto place = bounds(*selected);
+  const int middle = place.get_y() + place.get_height() / 2;
+  EXPECT_THAT(screen->pixel(place.get_x() + 6, middle), IsColor(QuorvelBrand::panelRaised));
+  EXPECT_THAT(stage::inkOf(*labelled(*view, "Agent workspace")), IsColor(QuorvelBrand::ink));
+  EXPECT_THAT(stage::inkOf(*stage::all<Gtk::Image>(*selected).front()), IsColor(QuorvelBrand::green));
+  EXPECT_THAT(stage::inkOf(*labelled(*view, "Chats and approvals")), IsColor(QuorvelBrand::muted));
+
+  auto* other = buttonNamed(*view, "Connectors");
+  const auto otherPlace = bounds(*other);
+  EXPECT_EQ(screen->pixel(otherPlace.get_x() + 6, otherPlace.get_y() + 10),
+            screen->pixel(otherPlace.get_x() - 6, otherPlace.get_y() + 10));
+  EXPECT_THAT(stage::inkOf(*labelled(*view, "Connectors")), IsColor(QuorvelBrand::secondaryInk));
+  EXPECT_THAT(stage::inkOf(*stage::all<Gtk::Image>(*other).front()), IsColor(QuorvelBrand::muted));
+}
+
+TEST_F(ContentViewTest, EachRowAsksForItsDestination) {
+  const std::pair<const char*, QuorvelRoute> destinations[] = {
+      {"Agent workspace", QuorvelRoute::agent},
+      {"Connectors", QuorvelRoute::connectors},
+      {"Browser workspace", QuorvelRoute::browserWorkspace},
+      {"Voice agent", QuorvelRoute::voice},
+      {"Pricing", QuorvelRoute::pricing},
+      {"Support", QuorvelRoute::support},
+      {"+ New chat", QuorvelRoute::agent}};
+  for (const auto& [title, route] : destinations) {
+    stage::click(button(title));
+    EXPECT_EQ(*model->currentURLString, url(route)) << title;
+  }
+}
+
+TEST_F(ContentViewTest, ASpinnerFloatsAtTheTopCentreOfThePageWhileItLoadsAndOnlyThen) {
+  auto& spinner = the<Gtk::Spinner>();
+  EXPECT_FALSE(spinner.get_mapped());
+
+  server.silence("/silent.html");
+  model->load(server.address("/silent.html"));
+  ASSERT_TRUE(stage::waitUntil([&] { return spinner.get_mapped() && spinner.get_width() > 0; }));
+  EXPECT_TRUE(spinner.get_spinning());
+  const auto page = bounds(the<QuorvelWebView>());
+  const auto place = bounds(spinner);
+  EXPECT_EQ(place.get_y(), page.get_y() + 10);
+  EXPECT_NEAR(place.get_x() + place.get_width() / 2, page.get_x() + page.get_width() / 2, 1);
+
+  webkit_web_view_stop_loading(model->webView());
+  EXPECT_TRUE(stage::waitUntil([&] { return !spinner.get_mapped(); }));
+  EXPECT_FALSE(spinner.get_spinning());
+}
+
+TEST_F(ContentViewTest, AVeryLongAddressIsShortenedInTheMiddle) {
+  const auto path = "/agent.html?" + std::string(400, 'x') + "end";
+  showPage(path);
+  auto* address = labelled(*view, server.address(path));
+  ASSERT_TRUE(address);
+  EXPECT_EQ(address->get_ellipsize(), Pango::EllipsizeMode::MIDDLE);
+  EXPECT_TRUE(address->get_layout()->is_ellipsized());
+  EXPECT_EQ(address->get_layout()->get_line_count(), 1);
+  EXPECT_EQ(bounds(the<DesktopClientToolbar>()).get_width(), 873) << "the window does not grow";
+}
+
+TEST_F(ContentViewTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlways) {
+  EXPECT_FALSE(button("Back").get_sensitive());
+  EXPECT_FALSE(button("Forward").get_sensitive());
+  EXPECT_TRUE(button("Reload").get_sensitive());
+  EXPECT_TRUE(button("Open externally").get_sensitive());
+
+  showPage("/agent.html#connectorsCenter");
+  EXPECT_TRUE(button("Back").get_sensitive());
+  EXPECT_FALSE(button("Forward").get_sensitive());
+
+  stage::click(button("Back"));
+  ASSERT_TRUE(stage::waitUntil([&] { return button("Forward").get_sensitive(); }));
+  EXPECT_FALSE(button("Back").get_sensitive());
+
+  stage::click(button("Forward"));
+  EXPECT_TRUE(stage::waitUntil([&] { return button("Back").get_sensitive(); }));
+}
+
+TEST_F(ContentViewTest, AButtonThatIsDisabledUnderTheFocusHandsItToTheOneBeside) {
+  showPage("/agent.html#connectorsCenter");
+  button("Back").grab_focus();
+  ASSERT_TRUE(button("Back").has_focus());
+  stage::click(button("Back"));
+  ASSERT_TRUE(stage::waitUntil([&] { return !button("Back").get_sensitive(); }));
+  EXPECT_TRUE(button("Reload").has_focus());
+}
+
+TEST_F(ContentViewTest, ReloadAndOpenExternallyDoTheirWork) {
+  stage::click(button("Reload"));
+  EXPECT_TRUE(stage::waitUntil([&] { return server.count("/agent.html") == 2; }));
+  waitForRest();
+  stage::click(button("Open externally"));
+  EXPECT_THAT(system->opened, ElementsAre(server.address("/agent.html")));
+}
+
+TEST_F(ContentViewTest, ButtonsAndRowsHaveTheirNamesAndTooltips) {
+  for (const char* name : {"Back", "Forward", "Reload"}) {
+    EXPECT_EQ(button(name).get_tooltip_text(), name);
+    EXPECT_TRUE(stage::hasAccessibleName(button(name), name));
+  }
+  EXPECT_EQ(button("Open externally").get_tooltip_text(), "Open current page in browser");
+  EXPECT_TRUE(stage::hasAccessibleName(button("Open externally"), "Open externally"));
+  EXPECT_TRUE(stage::hasAccessibleName(button("Pricing"), "Pricing"));
+  EXPECT_TRUE(stage::hasAccessibleDescription(button("Pricing"), "Plans and billing"));
+}
+
+TEST_F(ContentViewTest, TheToolbarHasItsColourAndALineBelow) {
+  const int height = bounds(the<DesktopClientToolbar>()).get_height();
+  EXPECT_THAT(screen->pixel(312, 4), IsColor(Color{0.02, 0.018, 0.018}));
+  EXPECT_THAT(screen->pixel(312, height - 1), IsColor(Color{0.133, 0.131, 0.131}));
+  EXPECT_EQ(bounds(button("Back")).get_x(), 307 + 14);
+  EXPECT_EQ(bounds(button("Forward")).get_x(),
+            bounds(button("Back")).get_x() + bounds(button("Back")).get_width() + 10);
+  EXPECT_EQ(bounds(button("Open externally")).get_x() + bounds(button("Open externally")).get_width(),
+            1180 - 14);
+}
+
+TEST_F(ContentViewTest, ResizingNeverReloads) {
+  screen->resize(1400, 860);
+  screen->resize(1180, 760);
+  settle();
+  EXPECT_EQ(server.count("/agent.html"), 1);
+}
+
+TEST_F(ContentViewTest, AChangeOfTitleOrLoadingNeitherReloadsNorReplacesThePage) {
+  auto* shown = the<QuorvelWebView>().get_first_child();
+  ASSERT_EQ(shown->gobj(), GTK_WIDGET(model->webView()));
+  runScript("document.title = 'Another'");
+  ASSERT_TRUE(stage::waitUntil([&] { return *model->title == "Another"; }));
+  stage::drawFrame(*view);
+  EXPECT_EQ(the<QuorvelWebView>().get_first_child(), shown);
+  EXPECT_EQ(server.count("/agent.html"), 1);
+}
+
+TEST_F(ContentViewTest, MakingAndDroppingTheWindowNeverTouchesThePage) {
+  runScript("document.title = 'kept'");
+  ASSERT_TRUE(stage::waitUntil([&] { return *model->title == "kept"; }));
+  close();
+  EXPECT_EQ(gtk_widget_get_parent(GTK_WIDGET(model->webView())), nullptr);
+  open();
+  settle();
+  EXPECT_EQ(*model->title, "kept");
+  EXPECT_EQ(server.requests().size(), 1u);
+}
+
+TEST_F(ContentViewTest, AnotherPageCanLoadWhileThePageHasNoWindow) {
+  close();
+  show("/pricing.html");
+  open();
+  EXPECT_THAT(highlighted(), ElementsAre("Pricing"));
+}
+
+TEST_F(ContentViewTest, ThePageIsMovedToItsNewestHost) {
+  QuorvelWebView newest(*model);
+  EXPECT_EQ(newest.get_first_child()->gobj(), GTK_WIDGET(model->webView()));
+  EXPECT_EQ(the<QuorvelWebView>().get_first_child(), nullptr);
+}
+
+TEST_F(ContentViewTest, TheTabKeyGoesFromTheSidebarOverTheToolbarIntoThePageAndOutAgain) {
+  auto& window = screen->window();
+  const auto focused = [&]() -> Gtk::Widget* { return window.get_focus(); };
+  button("Support").grab_focus();
+  EXPECT_TRUE(window.child_focus(Gtk::DirectionType::TAB_FORWARD));
+  EXPECT_EQ(focused(), &button("Reload")) << "what is disabled is passed over";
+  EXPECT_TRUE(window.child_focus(Gtk::DirectionType::TAB_FORWARD));
+  EXPECT_EQ(focused(), &button("Open externally"));
+  EXPECT_TRUE(window.child_focus(Gtk::DirectionType::TAB_FORWARD));
+  EXPECT_EQ(focused()->gobj(), GTK_WIDGET(model->webView()));
+  EXPECT_FALSE(gtk_widget_child_focus(GTK_WIDGET(model->webView()), GTK_DIR_TAB_FORWARD))
+      << "no part of the view is a stop of its own";
+}
+
+} // namespace
+} // namespace quorvel
