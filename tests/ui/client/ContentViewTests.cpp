@@ -3,10 +3,11 @@
 #include "DesktopClientNavRow.h"
 #include "DesktopClientSidebar.h"
 #include "DesktopClientToolbar.h"
-#include "LargeText.h"
 #include "ModelFixture.h"
 #include "QuorvelBrand.h"
 #include "QuorvelWebView.h"
+#include "TextChecks.h"
+#include "TextScale.h"
 
 namespace quorvel {
 namespace {
@@ -85,9 +86,10 @@ TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
 
 TEST_F(ContentViewTest, InLargeTextNothingIsCut) {
   close();
-  const stage::LargeText large;
+  const stage::TextScale large(1.5);
   open();
   EXPECT_THAT(stage::cutTexts(*view), IsEmpty());
+  EXPECT_EQ(view->get_height(), 760) << "the destinations scroll where there is no room for all of them";
 }
 
 TEST_F(ContentViewTest, AtTheLeastWidthTheSidebarKeepsItsWidthAndThePageTakesTheRest) {
