@@ -1,12 +1,12 @@
 #include "GraphicsEnvironment.h"
 #include "QuorvelApp.h"
-#include "fatalErrors.h"
+#include "engineFailure.h"
 
 #include <glibmm/miscutils.h>
 #include <iostream>
 
 int main(int argc, char** argv) {
-  quorvel::explainFatalErrors();
+  quorvel::explainEngineFailure();
   quorvel::GraphicsEnvironment().apply();
   Glib::set_prgname(quorvel::QuorvelApp::identifier); // by which a desktop finds the icon of the window
   if (!gtk_init_check()) {

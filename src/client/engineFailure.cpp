@@ -1,4 +1,4 @@
-#include "fatalErrors.h"
+#include "engineFailure.h"
 
 #include <cstdlib>
 #include <glib.h>
@@ -25,7 +25,7 @@ GLogWriterOutput write(GLogLevelFlags level, const GLogField* fields, gsize coun
 
 } // namespace
 
-void explainFatalErrors() {
+void explainEngineFailure() {
   g_log_set_writer_func(write, nullptr, nullptr);
 }
 

@@ -1,4 +1,4 @@
-#include "fatalErrors.h"
+#include "engineFailure.h"
 
 #include <cstdlib>
 #include <glib.h>
@@ -7,9 +7,9 @@
 namespace quorvel {
 namespace {
 
-TEST(FatalErrorsDeathTest, AnEngineThatCannotStartEndsTheProgramWithOneSentence) {
+TEST(EngineFailureDeathTest, AnEngineThatCannotStartEndsTheProgramWithOneSentence) {
   const auto fail = [] {
-    explainFatalErrors();
+    explainEngineFailure();
     g_error("Failed to fully launch dbus-proxy");
   };
   EXPECT_EXIT(
@@ -18,9 +18,9 @@ TEST(FatalErrorsDeathTest, AnEngineThatCannotStartEndsTheProgramWithOneSentence)
       "It needs bubblewrap, and a system that lets a program make namespaces\\.\n$");
 }
 
-TEST(FatalErrorsDeathTest, LesserMessagesEndNothing) {
+TEST(EngineFailureDeathTest, LesserMessagesEndNothing) {
   const auto warn = [] {
-    explainFatalErrors();
+    explainEngineFailure();
     g_warning("only a warning");
     std::_Exit(0);
   };
