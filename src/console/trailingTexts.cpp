@@ -1,6 +1,5 @@
 #include "trailingTexts.h"
 
-#include "FirstThatFits.h"
 #include "stacks.h"
 
 namespace quorvel {
@@ -12,11 +11,7 @@ Gtk::Widget* withTrailingTexts(Gtk::Widget* content, int spacing, std::initializ
     text->set_justify(Gtk::Justification::RIGHT);
     column->add({text});
   }
-  for (auto* member : {content, static_cast<Gtk::Widget*>(column)})
-    member->set_valign(Gtk::Align::START);
-  // A box would weigh the two by what they need at the row's height, and wrap the texts first.
-  return stretched(Gtk::make_managed<FirstThatFits>(
-      std::vector<FirstThatFits::Form>{{Gtk::Orientation::HORIZONTAL, 16, {content, hspacer(), column}}}));
+  return stretched(hstack(16, {content, hspacer(), column}, VerticalAlignment::top));
 }
 
 } // namespace quorvel
