@@ -27,6 +27,9 @@ constexpr std::array weights{
     WeightRow{"bold", 700},    WeightRow{"black", 900},
 };
 
+/// A symbol keeps a margin inside its square; so much larger than the text it looks as large.
+constexpr double symbolScale = 1.25;
+
 constexpr std::array<std::string_view, 8> colors{"standard", "dimmed", "ink",        "secondary-ink",
                                                  "muted",    "green",  "pure-black", "tone"};
 
@@ -54,8 +57,8 @@ std::string typographyRules() {
   // The toolkit scales only `pt` with the desktop's text size; one of our points is 0.75 of that unit.
   for (const auto& style : styles)
     rules << '.' << style.cssClass << " { font-size: " << style.pointSize * 0.75
-          << "pt; -gtk-icon-size: " << style.pointSize * 0.75 << "pt; font-weight: " << style.weight
-          << "; }\n";
+          << "pt; -gtk-icon-size: " << style.pointSize * 0.75 * symbolScale
+          << "pt; font-weight: " << style.weight << "; }\n";
   for (const auto& weight : weights)
     rules << '.' << weight.cssClass << " { font-weight: " << weight.weight << "; }\n";
   return rules.str();

@@ -7,7 +7,8 @@ namespace quorvel {
 /// The accent a record, pill or tile is tagged with; its colours are the palette's business.
 enum class AccentTone { ink, green, blue, clay, gold, mint, slate };
 
-template <> struct EnumerationTable<AccentTone> {
+template <>
+struct EnumerationTable<AccentTone> {
   struct Row {
     std::string_view rawValue;
   };
