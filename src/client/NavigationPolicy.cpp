@@ -12,6 +12,9 @@ NavigationChoice choose(const NavigationRequest& request) {
     return NavigationChoice::system;
   if (request.wantsWindow && (request.address.empty() || request.address == "about:blank"))
     return NavigationChoice::nothing;
+  // A window's address is loaded in the program's name, which opens doors that are shut to a page.
+  if (request.wantsWindow && (scheme == "javascript" || scheme == "file"))
+    return NavigationChoice::nothing;
   if (request.isDropped && scheme == "file")
     return NavigationChoice::nothing;
   return NavigationChoice::view;

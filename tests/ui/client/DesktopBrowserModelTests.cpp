@@ -160,6 +160,18 @@ TEST_F(DesktopBrowserModelTest, AWindowOpenedWithoutAnAddressDoesNothing) {
   EXPECT_EQ(server.requests().size(), 1u);
 }
 
+TEST_F(DesktopBrowserModelTest, AFrameOfAnotherSiteCannotRunItsScriptInThePageByOpeningAWindow) {
+  server.page("/frame.html", "<script>window.open(\"javascript:document.title='taken over'\");"
+                             "window.open('file:///etc/passwd'); parent.postMessage('done', '*')</script>");
+  server.page("/host.html",
+              "<title>Host</title><script>onmessage = () => { document.title += ' still' }</script>"
+              "<iframe src='" +
+                  server.address("/frame.html", "localhost") + "'></iframe>");
+  show("/host.html");
+  EXPECT_TRUE(stage::waitUntil([&] { return *model->title == "Host still"; })) << *model->title;
+  EXPECT_EQ(*model->currentURLString, server.address("/host.html"));
+}
+
 /// Every way a page can come to a mail or telephone address, in a page that `go()` sets off.
 struct WayOut {
   const char* name;

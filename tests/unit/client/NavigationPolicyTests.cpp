@@ -40,6 +40,11 @@ TEST(NavigationPolicy, AWindowWithoutAnAddressIsNothingToLoad) {
   EXPECT_EQ(choose({"about:blank", true}), NavigationChoice::nothing);
 }
 
+TEST(NavigationPolicy, AWindowIsNoWayToRunAScriptOrReadAFile) {
+  EXPECT_EQ(choose({"javascript:alert(1)", true}), NavigationChoice::nothing);
+  EXPECT_EQ(choose({"file:///etc/passwd", true}), NavigationChoice::nothing);
+}
+
 TEST(NavigationPolicy, ADroppedFileDoesNotReplaceThePage) {
   EXPECT_EQ(choose({"file:///home/user/letter.pdf", false, true}), NavigationChoice::nothing);
   EXPECT_EQ(choose({"https://elsewhere.example/", false, true}), NavigationChoice::view);
