@@ -1,6 +1,7 @@
 #include "SettingsView.h"
 
 #include "Frame.h"
+#include "ModelSwitch.h"
 #include "buttons.h"
 #include "card.h"
 #include "observe.h"
@@ -8,7 +9,6 @@
 #include "text.h"
 
 #include <gtkmm/gestureclick.h>
-#include <gtkmm/switch.h>
 
 namespace quorvel {
 
@@ -19,24 +19,22 @@ class SettingsView::ToggleRow : public HStack {
       : HStack(16), preferences_(preferences), key_(key) {
     add_css_class("toggle-row");
     setAccessibleName(switch_, title);
-    switch_.property_active().signal_changed().connect(
-        [this] { preferences_.set(key_, switch_.get_active()); });
     add({stretched(text(title, {})), &switch_});
 
     auto click = Gtk::GestureClick::create();
     click->signal_released().connect([this](int, double x, double y) {
       if (contains(x, y))
-        switch_.set_active(!switch_.get_active());
+        preferences_.set(key_, !preferences_.isOn(key_));
     });
     add_controller(click);
   }
 
-  void refresh() { switch_.set_active(preferences_.isOn(key_)); }
+  void refresh() { switch_.show(preferences_.isOn(key_)); }
 
  private:
   Preferences& preferences_;
   PreferenceKey key_;
-  Gtk::Switch& switch_ = *Gtk::make_managed<Gtk::Switch>();
+  ModelSwitch& switch_ = *Gtk::make_managed<ModelSwitch>([this](bool isOn) { preferences_.set(key_, isOn); });
 };
 
 namespace {
