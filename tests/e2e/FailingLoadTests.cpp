@@ -1,0 +1,99 @@
+#include "ClientTest.h"
+
+#include <fstream>
+
+namespace quorvel::e2e {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Failure {
+  std::string name;
+  std::string address;
+};
+
+void PrintTo(const Failure& failure, std::ostream* out) {
+  *out << failure.name;
+}
+
+class FailingLoadTest : public ClientTest, public testing::WithParamInterface<Failure> {};
+
+TEST_P(FailingLoadTest, IsSilentAndEndsTheLoadingState) {
+  stage.servePage("agent.html",
+                  buttonFor("report('clicked').then(() => location.href = '" + GetParam().address + "')"));
+  start();
+  client().clickPage();
+  EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains("clicked")));
+  EXPECT_TRUE(eventually([&] { return !client().spins(); }));
+  EXPECT_EQ(client().windows().size(), 1u) << "no dialog";
+
+  client().press("Pricing");
+  waitForPage("/pricing.html");
+  expectAddress(origin + "/pricing.html");
+}
+
+INSTANTIATE_TEST_SUITE_P(Load, FailingLoadTest,
+                         testing::Values(Failure{"Refused", "https://app.quorvel.example:444/"},
+                                         Failure{"Unresolvable", "https://nowhere.quorvel.example/"},
+                                         Failure{"BadCertificate", "https://untrusted.quorvel.example/"},
+                                         Failure{"InternalServerError", "/status?code=500"},
+                                         Failure{"NoContent", "/status?code=204"},
+                                         Failure{"CutOffInMidBody", "/cut-off"},
+                                         Failure{"Download", "/download"},
+                                         Failure{"UnknownScheme", "nothing-knows-this:at-all"}),
+                         [](const auto& failure) { return failure.param.name; });
+
+class LoadingTest : public ClientTest {
+ protected:
+  void follow(const std::string& address) {
+    stage.servePage("agent.html", linkTo(address));
+    start();
+    client().clickPage();
+  }
+};
+
+TEST_F(LoadingTest, AnUntrustedSiteIsNeverAskedForAPage) {
+  follow("https://untrusted.quorvel.example/agent.html");
+  client().press("Pricing");
+  waitForPage("/pricing.html");
+  for (const auto& request : stage.requests().requests())
+    EXPECT_EQ(request.host, "app.quorvel.example");
+}
+
+TEST_F(LoadingTest, TheSpinnerShowsWhileAPageLoadsAndOnlyThen) {
+  follow("/slow?seconds=2");
+  EXPECT_TRUE(eventually([&] { return client().spins(); }));
+  expectAddress(origin + "/slow?seconds=2");
+  EXPECT_TRUE(eventually([&] { return !client().spins(); }));
+}
+
+TEST_F(LoadingTest, AServerThatSaysNothingKeepsTheSpinnerUntilAnotherPageIsChosen) {
+  follow("/silent");
+  EXPECT_TRUE(eventually([&] { return stage.requests().count("/silent"); }, Eq(1)));
+  EXPECT_TRUE(eventually([&] { return client().spins(); }));
+  client().press("Pricing");
+  waitForPage("/pricing.html");
+}
+
+TEST_F(LoadingTest, ADownloadNeverReplacesAFileThatIsThere) {
+  const auto folder = stage.folder() / "home" / "Downloads";
+  fs::create_directories(folder);
+  std::ofstream(stage.config() / "user-dirs.dirs") << "XDG_DOWNLOAD_DIR=\"$HOME/Downloads\"\n";
+  std::ofstream(folder / "brief.txt") << "mine";
+  follow("/download?name=brief.txt");
+  EXPECT_TRUE(eventually([&] { return std::distance(fs::directory_iterator(folder), {}); }, Eq(2)));
+  std::string text;
+  std::getline(std::ifstream(folder / "brief.txt"), text);
+  EXPECT_EQ(text, "mine");
+}
+
+TEST_F(LoadingTest, ReloadBringsBackAPageWhoseProcessHasDied) {
+  start();
+  client().killWebProcess();
+  client().press("Reload");
+  waitForPage("/agent.html", 2);
+  expectAddress(origin + agentPage);
+}
+
+} // namespace
+} // namespace quorvel::e2e

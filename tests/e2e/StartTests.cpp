@@ -1,0 +1,19 @@
+#include "ClientTest.h"
+
+namespace quorvel::e2e {
+namespace {
+
+using StartTest = ClientTest;
+
+TEST_F(StartTest, TheFirstRequestIsTheAgentPageAndNamesTheClient) {
+  start();
+  ASSERT_TRUE(eventually([&] { return !stage.requests().requests().empty(); }));
+  const auto first = stage.requests().requests().front();
+  EXPECT_EQ(first.method, "GET");
+  EXPECT_EQ(first.host, "app.quorvel.example");
+  EXPECT_EQ(first.target, agentPage);
+  EXPECT_THAT(first.userAgent, EndsWith("Quorvel Desktop"));
+}
+
+} // namespace
+} // namespace quorvel::e2e

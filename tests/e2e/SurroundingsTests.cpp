@@ -1,0 +1,91 @@
+#include "ClientTest.h"
+
+namespace quorvel::e2e {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Puts the program into surroundings that lack something.
+class SurroundingsTest : public ClientTest {
+ protected:
+  static Arguments lacking(const std::string& what, const std::vector<fs::path>& folders = {}) {
+    Arguments command = {QUORVEL_SURROUNDINGS, what};
+    command.insert(command.end(), folders.begin(), folders.end());
+    command.emplace_back("--");
+    return command;
+  }
+  /// The page is on the screen and answers to the keyboard.
+  void expectWorkingPage() {
+    waitForPage("/agent.html");
+    client().type("ctrl+r");
+    waitForPage("/agent.html", 2);
+  }
+  void flipASetting() {
+    client().type("ctrl+comma");
+    EXPECT_TRUE(eventually([&] { return client().window("Settings").has_value(); }));
+    client().toggle("Settings", "Show inspector");
+    EXPECT_TRUE(eventually([&] { return client().isOn("Settings", "Show inspector"); }, Eq(false)));
+    client().type("Escape");
+    EXPECT_TRUE(eventually([&] { return !client().window("Settings").has_value(); }));
+  }
+};
+
+TEST_F(SurroundingsTest, WithoutADisplayTheProgramSaysSoInOneSentenceAndEnds) {
+  Client client({{"DISPLAY", std::nullopt}});
+  EXPECT_EQ(client.process().waitForEnd(), 1);
+  EXPECT_EQ(client.said(), "Quorvel needs a display to show its window on, and found none.\n");
+  EXPECT_THAT(stage.requests().requests(), IsEmpty());
+}
+
+TEST_F(SurroundingsTest, WithoutASessionBusThePageShowsAndAnswers) {
+  launch({{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"}});
+  EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains("shown=/agent.html")));
+  EXPECT_NE(client().xWindow(), "");
+  client().type("ctrl+r");
+  EXPECT_TRUE(eventually([&] { return stage.requests().count(agentPage); }, Eq(2)));
+  quit();
+}
+
+TEST_F(SurroundingsTest, WithoutAHomeFolderThePageShowsAndAnswers) {
+  const std::string nowhere = "/proc/nowhere";
+  start({{"HOME", nowhere},
+         {"XDG_CONFIG_HOME", nowhere},
+         {"XDG_DATA_HOME", nowhere},
+         {"XDG_CACHE_HOME", nowhere},
+         {"XDG_STATE_HOME", nowhere}});
+  expectWorkingPage();
+  flipASetting();
+  quit();
+}
+
+TEST_F(SurroundingsTest, WithAReadOnlyConfigurationFolderASwitchStillFlips) {
+  start({}, lacking("read-only", {stage.config()}));
+  expectWorkingPage();
+  flipASetting();
+  quit();
+  EXPECT_FALSE(fs::exists(stage.config() / "quorvel"));
+}
+
+TEST_F(SurroundingsTest, WithAFullDiskThePageShowsAndASwitchStillFlips) {
+  start({}, lacking("full-disk", {stage.config(), stage.data(), stage.cache()}));
+  expectWorkingPage();
+  flipASetting();
+  quit();
+}
+
+TEST_F(SurroundingsTest, WithoutANetworkTheWindowIsThereAndLoadsNothing) {
+  launch({}, lacking("no-network"));
+  EXPECT_TRUE(eventually([&] { return client().window().has_value(); }));
+  EXPECT_TRUE(eventually([&] { return !client().spins(); }));
+  expectAddress(origin + agentPage);
+  client().press("Pricing");
+  expectHighlighted({"Pricing"});
+  EXPECT_TRUE(eventually([&] { return !client().spins(); }));
+  EXPECT_EQ(client().windows().size(), 1u);
+  client().press("Open externally");
+  EXPECT_TRUE(eventually([&] { return stage.handedToSystem(); }, ElementsAre(origin + "/pricing.html")));
+  quit();
+}
+
+} // namespace
+} // namespace quorvel::e2e

@@ -1,0 +1,136 @@
+#include "ChildProcess.h"
+
+#include "eventually.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <glib.h>
+#include <iterator>
+#include <sstream>
+#include <stdexcept>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quorvel::e2e {
+namespace {
+
+std::vector<char*> pointers(const Arguments& command) {
+  std::vector<char*> result;
+  for (const auto& argument : command)
+    result.push_back(const_cast<char*>(argument.c_str()));
+  result.push_back(nullptr);
+  return result;
+}
+
+void apply(const Environment& environment) {
+  for (const auto& [name, value] : environment)
+    value ? ::setenv(name.c_str(), value->c_str(), 1) : ::unsetenv(name.c_str());
+}
+
+void printInto(const std::string& file) {
+  const int output = ::open(file.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
+  ::dup2(output, STDOUT_FILENO);
+  ::dup2(output, STDERR_FILENO);
+}
+
+struct ProcessStatus {
+  std::string name;
+  char state = 'X';
+  pid_t parent = 0;
+};
+
+ProcessStatus statusOf(pid_t id) {
+  std::ifstream file("/proc/" + std::to_string(id) + "/stat");
+  const std::string text{std::istreambuf_iterator<char>(file), {}};
+  const auto nameEnd = text.rfind(')');
+  if (nameEnd == std::string::npos)
+    return {};
+  ProcessStatus status{text.substr(0, nameEnd)};
+  status.name.erase(0, status.name.find('(') + 1);
+  std::istringstream(text.substr(nameEnd + 1)) >> status.state >> status.parent;
+  return status;
+}
+
+bool descendsFrom(pid_t id, pid_t ancestor) {
+  for (; id > 1; id = statusOf(id).parent)
+    if (id == ancestor)
+      return true;
+  return false;
+}
+
+int statusFrom(int waited) {
+  return WIFEXITED(waited) ? WEXITSTATUS(waited) : 128 + WTERMSIG(waited);
+}
+
+} // namespace
+
+ChildProcess::ChildProcess(const Arguments& command, const Environment& environment,
+                           const std::string& output) {
+  id_ = ::fork();
+  if (id_ < 0)
+    throw std::runtime_error("cannot start " + command.front());
+  if (id_ > 0)
+    return;
+  ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+  apply(environment);
+  if (!output.empty())
+    printInto(output);
+  ::execvp(command.front().c_str(), pointers(command).data());
+  ::_exit(127);
+}
+
+ChildProcess::~ChildProcess() {
+  signal(SIGTERM);
+  if (!waitForEnd()) {
+    signal(SIGKILL);
+    ::waitpid(id_, nullptr, 0);
+  }
+}
+
+std::optional<int> ChildProcess::status() {
+  int waited = 0;
+  if (!status_ && ::waitpid(id_, &waited, WNOHANG) == id_)
+    status_ = statusFrom(waited);
+  return status_;
+}
+
+std::optional<int> ChildProcess::waitForEnd() {
+  static_cast<void>(eventually([this] { return status().has_value(); }));
+  return status_;
+}
+
+void ChildProcess::signal(int number) const {
+  if (!status_)
+    ::kill(id_, number);
+}
+
+std::vector<pid_t> descendants(pid_t ancestor, const std::string& name) {
+  std::vector<pid_t> found;
+  for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+    const pid_t id = std::atoi(entry.path().filename().c_str());
+    const auto status = id > 0 ? statusOf(id) : ProcessStatus{};
+    if (status.name == name && status.state != 'Z' && descendsFrom(id, ancestor))
+      found.push_back(id);
+  }
+  return found;
+}
+
+std::string outputOf(const Arguments& command, const Environment& environment) {
+  g_autofree char* folder = g_dir_make_tmp("quorvel-output-XXXXXX", nullptr);
+  g_autofree char* file = g_build_filename(folder, "output", nullptr);
+  ChildProcess(command, environment, file).waitForEnd();
+  g_autofree char* text = nullptr;
+  g_file_get_contents(file, &text, nullptr, nullptr);
+  ::unlink(file);
+  ::rmdir(folder);
+  std::string result = text ? text : "";
+  if (result.ends_with('\n'))
+    result.pop_back();
+  return result;
+}
+
+} // namespace quorvel::e2e

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "Client.h"
+#include "Stage.h"
+#include "eventually.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <memory>
+
+namespace quorvel::e2e {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::Eq;
+using testing::Ge;
+using testing::Gt;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+inline const std::string origin = "https://app.quorvel.example";
+inline const std::string agentPage = "/agent.html?source=mac_app";
+
+/// A link that covers the whole page, so that a click anywhere follows it.
+std::string linkTo(const std::string& address, const std::string& attributes = "");
+/// Covers the whole page with a button that runs a script.
+std::string buttonFor(const std::string& script);
+
+/// A fresh account in a private network, and the program in it as soon as a test starts it.
+class ClientTest : public testing::Test {
+ protected:
+  /// Starts the program and waits until its window and its first page are there.
+  Client& start(const Environment& environment = {}, const Arguments& through = {});
+  /// Starts the program and waits for nothing.
+  Client& launch(const Environment& environment = {}, const Arguments& through = {});
+  /// Ends the program as a user would.
+  void quit();
+  Client& client() { return *client_; }
+
+  /// Waits until a reporting page has come on the screen for the n-th time and has ended loading.
+  void waitForPage(const std::string& path, int times = 1);
+  /// Expects the address field to come to show this.
+  void expectAddress(const std::string& address);
+  /// Expects exactly these sidebar rows to come to be highlighted.
+  void expectHighlighted(const std::vector<std::string>& rows);
+
+  void TearDown() override;
+
+  Stage stage;
+
+ private:
+  std::unique_ptr<Client> client_;
+};
+
+} // namespace quorvel::e2e
