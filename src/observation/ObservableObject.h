@@ -10,7 +10,7 @@ namespace quorvel {
 /// Everything runs on the main thread. An observer that is a `sigc::trackable` is forgotten when it goes; any
 /// other observer keeps the returned connection and disconnects it itself.
 class ObservableObject {
-public:
+ public:
   ObservableObject() = default;
   ObservableObject(const ObservableObject&) = delete;
   ObservableObject& operator=(const ObservableObject&) = delete;
@@ -18,10 +18,10 @@ public:
   /// Emitted once before every assignment to a published field, also when the value stays the same.
   sigc::signal<void()>& objectWillChange() { return objectWillChange_; }
 
-protected:
+ protected:
   ~ObservableObject() = default;
 
-private:
+ private:
   sigc::signal<void()> objectWillChange_;
 };
 

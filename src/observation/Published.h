@@ -8,10 +8,12 @@ namespace quorvel {
 
 /// A field of an `ObservableObject` that announces each assignment before it takes effect.
 ///
-/// It reads like the value it holds (`model.isLoading`, `store.requests->size()`), and is written by assignment or,
-/// for a change in place, by `update()`. It belongs to its owner and can be neither copied nor moved.
-template <class Value> class Published {
-public:
+/// It reads like the value it holds (`model.isLoading`, `store.requests->size()`), and is written by
+/// assignment or, for a change in place, by `update()`. It belongs to its owner and can be neither copied nor
+/// moved.
+template <class Value>
+class Published {
+ public:
   Published(ObservableObject& owner, Value initial) : owner_(owner), value_(std::move(initial)) {}
   Published(const Published&) = delete;
   Published& operator=(const Published&) = delete;
@@ -24,7 +26,8 @@ public:
   }
 
   /// Announces, then lets `edit` change the value in place. One announcement per call.
-  template <class Edit> void update(Edit&& edit) {
+  template <class Edit>
+  void update(Edit&& edit) {
     owner_.objectWillChange().emit();
     std::forward<Edit>(edit)(value_);
   }
@@ -34,7 +37,7 @@ public:
   const Value& operator*() const { return value_; }
   const Value* operator->() const { return &value_; }
 
-private:
+ private:
   ObservableObject& owner_;
   Value value_;
 };

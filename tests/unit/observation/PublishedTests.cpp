@@ -32,7 +32,7 @@ struct View : sigc::trackable {
   std::vector<std::function<bool(int)>> ticks;
   std::vector<int> shown;
 
-private:
+ private:
   Model& model_;
 };
 
