@@ -95,7 +95,6 @@ void Stage::registerHandler() const {
 }
 
 // Without -noreset the server starts afresh when its last client leaves, and drops whoever is just arriving.
-// number.
 void Stage::startDisplay() {
   auto [server, number] =
       startServer({"Xvfb", "-displayfd", "3", "-screen", "0", "1800x1200x24", "-nolisten", "tcp", "-noreset"},
