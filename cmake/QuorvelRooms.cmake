@@ -1,7 +1,6 @@
-# A room is one folder and one static library. It sees the headers of its own folder and of the rooms it names,
-# and of nothing else: an include that crosses the house the wrong way does not compile.
+# A room is one folder below src/ and one static library. What it may use stands in src/rooms.txt and nowhere else.
 #
-#   quorvel_room(brand SOURCES StatusPill.cpp ... USES quorvel_layout PkgConfig::GTKMM)
+#   quorvel_room(brand SOURCES StatusPill.cpp ...)    in src/brand/CMakeLists.txt
 
 add_library(quorvel_options INTERFACE)
 target_compile_features(quorvel_options INTERFACE cxx_std_20)
@@ -11,11 +10,65 @@ target_compile_options(quorvel_options INTERFACE -Wall -Wextra -Wconversion -Wsh
 add_library(quorvel_gtkmm_headers OBJECT "${CMAKE_CURRENT_LIST_DIR}/gtkmm_headers.cpp")
 target_compile_features(quorvel_gtkmm_headers PRIVATE cxx_std_20)
 
+# The libraries that the table names.
+set(quorvel_library_sigc++ PkgConfig::SIGCPP)
+set(quorvel_library_glib PkgConfig::GLIBMM)
+set(quorvel_library_glibmm PkgConfig::GLIBMM)
+set(quorvel_library_giomm PkgConfig::GIOMM)
+set(quorvel_library_gtkmm PkgConfig::GTKMM)
+set(quorvel_library_webkitgtk PkgConfig::WEBKIT)
+
+set(quorvel_room_table "${PROJECT_SOURCE_DIR}/src/rooms.txt")
+set_property(DIRECTORY "${PROJECT_SOURCE_DIR}" APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${quorvel_room_table}")
+
+# The target of a room or library of the table: quorvel_brand, quorvel_programs_client, PkgConfig::GTKMM.
+function(quorvel_targets result)
+  set(targets "")
+  foreach(name IN LISTS ARGN)
+    if(DEFINED quorvel_library_${name})
+      list(APPEND targets ${quorvel_library_${name}})
+    else()
+      string(REPLACE "/" "_" name "${name}")
+      list(APPEND targets quorvel_${name})
+    endif()
+  endforeach()
+  set(${result} "${targets}" PARENT_SCOPE)
+endfunction()
+
+# What the table lets a room use.
+function(quorvel_uses room public private)
+  file(STRINGS "${quorvel_room_table}" rows REGEX "^${room} *\\|")
+  list(LENGTH rows count)
+  if(NOT count EQUAL 1)
+    message(FATAL_ERROR "${quorvel_room_table} has ${count} rows for the room ${room}; it takes one.")
+  endif()
+  string(REPLACE "|" ";" columns "${rows}")
+  list(GET columns 1 itsPublic)
+  list(GET columns 2 itsPrivate)
+  separate_arguments(itsPublic)
+  separate_arguments(itsPrivate)
+  set(${public} "${itsPublic}" PARENT_SCOPE)
+  set(${private} "${itsPrivate}" PARENT_SCOPE)
+endfunction()
+
 function(quorvel_room name)
-  cmake_parse_arguments(room "" "" "SOURCES;USES" ${ARGN})
-  add_library(quorvel_${name} STATIC ${room_SOURCES})
-  target_include_directories(quorvel_${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
-  target_link_libraries(quorvel_${name} PUBLIC ${room_USES} PRIVATE quorvel_options)
+  cmake_parse_arguments(room "" "" "SOURCES" ${ARGN})
+  quorvel_uses(${name} public private)
+  quorvel_targets(target ${name})
+  quorvel_targets(public_targets ${public})
+  quorvel_targets(private_targets ${private})
+  if(room_SOURCES)
+    add_library(${target} STATIC ${room_SOURCES})
+    target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(${target} PUBLIC ${public_targets} PRIVATE ${private_targets} quorvel_options)
+    if("gtkmm" IN_LIST public OR "gtkmm" IN_LIST private)
+      quorvel_precompile_gtkmm(${target})
+    endif()
+  else()
+    add_library(${target} INTERFACE)
+    target_include_directories(${target} INTERFACE "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(${target} INTERFACE ${public_targets})
+  endif()
 endfunction()
 
 # Lets a target that already links gtkmm compile against the shared precompiled headers.

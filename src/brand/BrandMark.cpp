@@ -1,7 +1,7 @@
-#include "BrandMark.h"
+#include "brand/BrandMark.h"
 
-#include "QuorvelBrand.h"
-#include "Typography.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/Typography.h"
 
 #include <algorithm>
 #include <gtk/gtk.h>

@@ -1,7 +1,7 @@
-#include "MetricTile.h"
+#include "brand/MetricTile.h"
 
-#include "symbol.h"
-#include "tone.h"
+#include "brand/symbol.h"
+#include "brand/tone.h"
 
 namespace quorvel {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AccentTone.h"
-#include "stacks.h"
+#include "layout/stacks.h"
+#include "vocabulary/AccentTone.h"
 
 #include <gtkmm/label.h>
 

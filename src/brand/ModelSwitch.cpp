@@ -1,4 +1,4 @@
-#include "ModelSwitch.h"
+#include "brand/ModelSwitch.h"
 
 #include <gtkmm/eventcontrollerkey.h>
 #include <gtkmm/gestureclick.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AccentTone.h"
-#include "Color.h"
+#include "brand/Color.h"
+#include "vocabulary/AccentTone.h"
 
 #include <array>
 

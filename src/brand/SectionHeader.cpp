@@ -1,6 +1,6 @@
-#include "SectionHeader.h"
+#include "brand/SectionHeader.h"
 
-#include "text.h"
+#include "brand/text.h"
 
 namespace quorvel {
 

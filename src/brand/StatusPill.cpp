@@ -1,8 +1,8 @@
-#include "StatusPill.h"
+#include "brand/StatusPill.h"
 
-#include "stacks.h"
-#include "text.h"
-#include "tone.h"
+#include "brand/text.h"
+#include "brand/tone.h"
+#include "layout/stacks.h"
 
 namespace quorvel {
 

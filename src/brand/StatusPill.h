@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AccentTone.h"
+#include "vocabulary/AccentTone.h"
 
 #include <gtkmm/box.h>
 #include <gtkmm/label.h>

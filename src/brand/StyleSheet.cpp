@@ -1,7 +1,7 @@
-#include "StyleSheet.h"
+#include "brand/StyleSheet.h"
 
-#include "QuorvelBrand.h"
-#include "Typography.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/Typography.h"
 
 #include <array>
 #include <giomm/resource.h>

@@ -1,4 +1,4 @@
-#include "Typography.h"
+#include "brand/Typography.h"
 
 #include <array>
 #include <sstream>

@@ -1,7 +1,7 @@
-#include "buttons.h"
+#include "brand/buttons.h"
 
-#include "stacks.h"
-#include "symbol.h"
+#include "brand/symbol.h"
+#include "layout/stacks.h"
 
 #include <array>
 #include <string>

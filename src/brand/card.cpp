@@ -1,6 +1,6 @@
-#include "card.h"
+#include "brand/card.h"
 
-#include "stacks.h"
+#include "layout/stacks.h"
 
 namespace quorvel {
 

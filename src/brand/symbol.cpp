@@ -1,4 +1,4 @@
-#include "symbol.h"
+#include "brand/symbol.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text.h"
+#include "brand/text.h"
 
 #include <gtkmm/image.h>
 

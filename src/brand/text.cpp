@@ -1,4 +1,4 @@
-#include "text.h"
+#include "brand/text.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Typography.h"
+#include "brand/Typography.h"
 
 #include <gtkmm/label.h>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "tone.h"
+#include "brand/tone.h"
 
 #include <gtkmm/box.h>
 #include <string>

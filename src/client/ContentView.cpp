@@ -1,12 +1,12 @@
-#include "ContentView.h"
+#include "client/ContentView.h"
 
-#include "DesktopBrowserModel.h"
-#include "DesktopClientSidebar.h"
-#include "DesktopClientToolbar.h"
-#include "Frame.h"
-#include "QuorvelWebView.h"
-#include "buttons.h"
-#include "observe.h"
+#include "brand/buttons.h"
+#include "client/DesktopBrowserModel.h"
+#include "client/DesktopClientSidebar.h"
+#include "client/DesktopClientToolbar.h"
+#include "client/QuorvelWebView.h"
+#include "layout/Frame.h"
+#include "observation/observe.h"
 
 #include <gtkmm/overlay.h>
 #include <gtkmm/separator.h>

@@ -1,8 +1,8 @@
-#include "DesktopClientNavRow.h"
+#include "client/DesktopClientNavRow.h"
 
-#include "Frame.h"
-#include "stacks.h"
-#include "symbol.h"
+#include "brand/symbol.h"
+#include "layout/Frame.h"
+#include "layout/stacks.h"
 
 namespace quorvel {
 

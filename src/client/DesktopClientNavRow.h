@@ -1,6 +1,6 @@
 #pragma once
 
-#include "buttons.h"
+#include "brand/buttons.h"
 
 #include <gtkmm/box.h>
 #include <gtkmm/image.h>

@@ -1,12 +1,12 @@
-#include "DesktopClientSidebar.h"
+#include "client/DesktopClientSidebar.h"
 
-#include "BrandMark.h"
-#include "DesktopBrowserModel.h"
-#include "DesktopClientNavRow.h"
-#include "ServiceOrigin.h"
-#include "StatusPill.h"
-#include "observe.h"
-#include "text.h"
+#include "brand/BrandMark.h"
+#include "brand/StatusPill.h"
+#include "brand/text.h"
+#include "client/DesktopBrowserModel.h"
+#include "client/DesktopClientNavRow.h"
+#include "client/ServiceOrigin.h"
+#include "observation/observe.h"
 
 #include <gtkmm/scrolledwindow.h>
 

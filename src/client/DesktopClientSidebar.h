@@ -1,7 +1,7 @@
 #pragma once
 
-#include "QuorvelRoute.h"
-#include "stacks.h"
+#include "client/QuorvelRoute.h"
+#include "layout/stacks.h"
 
 #include <utility>
 #include <vector>

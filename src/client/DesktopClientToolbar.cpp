@@ -1,9 +1,9 @@
-#include "DesktopClientToolbar.h"
+#include "client/DesktopClientToolbar.h"
 
-#include "DesktopBrowserModel.h"
-#include "buttons.h"
-#include "observe.h"
-#include "symbol.h"
+#include "brand/buttons.h"
+#include "brand/symbol.h"
+#include "client/DesktopBrowserModel.h"
+#include "observation/observe.h"
 
 namespace quorvel {
 namespace {

@@ -1,7 +1,7 @@
-#include "QuorvelRoute.h"
+#include "client/QuorvelRoute.h"
 
-#include "ServiceOrigin.h"
-#include "fatalError.h"
+#include "client/ServiceOrigin.h"
+#include "vocabulary/fatalError.h"
 
 #include <array>
 #include <glib.h>

@@ -1,8 +1,8 @@
-#include "ActivityCard.h"
+#include "console/ActivityCard.h"
 
-#include "card.h"
-#include "text.h"
-#include "tone.h"
+#include "brand/card.h"
+#include "brand/text.h"
+#include "brand/tone.h"
 
 #include <ranges>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ActivityItem.h"
-#include "KeyedRows.h"
-#include "stacks.h"
+#include "layout/KeyedRows.h"
+#include "layout/stacks.h"
+#include "workspace/ActivityItem.h"
 
 namespace quorvel {
 

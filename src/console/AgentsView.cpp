@@ -1,14 +1,14 @@
-#include "AgentsView.h"
+#include "console/AgentsView.h"
 
-#include "AdaptiveGrid.h"
-#include "Frame.h"
-#include "KeyedRows.h"
-#include "SectionHeader.h"
-#include "StatusPill.h"
-#include "card.h"
-#include "observe.h"
-#include "text.h"
-#include "tone.h"
+#include "brand/SectionHeader.h"
+#include "brand/StatusPill.h"
+#include "brand/card.h"
+#include "brand/text.h"
+#include "brand/tone.h"
+#include "layout/AdaptiveGrid.h"
+#include "layout/Frame.h"
+#include "layout/KeyedRows.h"
+#include "observation/observe.h"
 
 #include <pango/pango.h>
 #include <string>

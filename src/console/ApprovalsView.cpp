@@ -1,12 +1,12 @@
-#include "ApprovalsView.h"
+#include "console/ApprovalsView.h"
 
-#include "SectionHeader.h"
-#include "StatusPill.h"
-#include "buttons.h"
-#include "card.h"
-#include "observe.h"
-#include "text.h"
-#include "trailingTexts.h"
+#include "brand/SectionHeader.h"
+#include "brand/StatusPill.h"
+#include "brand/buttons.h"
+#include "brand/card.h"
+#include "brand/text.h"
+#include "console/trailingTexts.h"
+#include "observation/observe.h"
 
 #include <algorithm>
 #include <gtkmm/root.h>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "KeyedRows.h"
-#include "WorkspaceStore.h"
-#include "stacks.h"
+#include "layout/KeyedRows.h"
+#include "layout/stacks.h"
+#include "workspace/WorkspaceStore.h"
 
 #include <optional>
 

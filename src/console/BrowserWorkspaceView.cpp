@@ -1,10 +1,10 @@
-#include "BrowserWorkspaceView.h"
+#include "console/BrowserWorkspaceView.h"
 
-#include "Frame.h"
-#include "SectionHeader.h"
-#include "StatusPill.h"
-#include "card.h"
-#include "text.h"
+#include "brand/SectionHeader.h"
+#include "brand/StatusPill.h"
+#include "brand/card.h"
+#include "brand/text.h"
+#include "layout/Frame.h"
 
 namespace quorvel {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "stacks.h"
+#include "layout/stacks.h"
 
 namespace quorvel {
 

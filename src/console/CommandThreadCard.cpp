@@ -1,9 +1,9 @@
-#include "CommandThreadCard.h"
+#include "console/CommandThreadCard.h"
 
-#include "StatusPill.h"
-#include "card.h"
-#include "symbol.h"
-#include "tone.h"
+#include "brand/StatusPill.h"
+#include "brand/card.h"
+#include "brand/symbol.h"
+#include "brand/tone.h"
 
 #include <gtkmm/entry.h>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "buttons.h"
-#include "stacks.h"
+#include "brand/buttons.h"
+#include "layout/stacks.h"
 
 namespace quorvel {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "WorkspaceStore.h"
-#include "stacks.h"
+#include "layout/stacks.h"
+#include "workspace/WorkspaceStore.h"
 
 namespace quorvel {
 

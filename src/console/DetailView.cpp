@@ -1,14 +1,14 @@
-#include "DetailView.h"
+#include "console/DetailView.h"
 
-#include "AgentsView.h"
-#include "ApprovalsView.h"
-#include "BrowserWorkspaceView.h"
-#include "ConnectorsView.h"
-#include "OverviewView.h"
-#include "PricingView.h"
-#include "RequestsView.h"
-#include "SecurityView.h"
-#include "observe.h"
+#include "console/AgentsView.h"
+#include "console/ApprovalsView.h"
+#include "console/BrowserWorkspaceView.h"
+#include "console/ConnectorsView.h"
+#include "console/OverviewView.h"
+#include "console/PricingView.h"
+#include "console/RequestsView.h"
+#include "console/SecurityView.h"
+#include "observation/observe.h"
 
 #include <gtkmm/root.h>
 

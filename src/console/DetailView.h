@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Preferences.h"
-#include "WorkspaceStore.h"
+#include "preferences/Preferences.h"
+#include "workspace/WorkspaceStore.h"
 
 #include <gtkmm/scrolledwindow.h>
 #include <optional>

@@ -1,11 +1,11 @@
-#include "InspectorPanel.h"
+#include "console/InspectorPanel.h"
 
-#include "Frame.h"
-#include "KeyedRows.h"
-#include "StatusPill.h"
-#include "observe.h"
-#include "symbol.h"
-#include "tone.h"
+#include "brand/StatusPill.h"
+#include "brand/symbol.h"
+#include "brand/tone.h"
+#include "layout/Frame.h"
+#include "layout/KeyedRows.h"
+#include "observation/observe.h"
 
 #include <ranges>
 #include <string>

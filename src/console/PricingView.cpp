@@ -1,14 +1,14 @@
-#include "PricingView.h"
+#include "console/PricingView.h"
 
-#include "AdaptiveGrid.h"
-#include "KeyedRows.h"
-#include "SectionHeader.h"
-#include "StatusPill.h"
-#include "buttons.h"
-#include "card.h"
-#include "observe.h"
-#include "symbol.h"
-#include "tone.h"
+#include "brand/SectionHeader.h"
+#include "brand/StatusPill.h"
+#include "brand/buttons.h"
+#include "brand/card.h"
+#include "brand/symbol.h"
+#include "brand/tone.h"
+#include "layout/AdaptiveGrid.h"
+#include "layout/KeyedRows.h"
+#include "observation/observe.h"
 
 namespace quorvel {
 namespace {

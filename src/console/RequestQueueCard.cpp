@@ -1,9 +1,9 @@
-#include "RequestQueueCard.h"
+#include "console/RequestQueueCard.h"
 
-#include "StatusPill.h"
-#include "card.h"
-#include "text.h"
-#include "tone.h"
+#include "brand/StatusPill.h"
+#include "brand/card.h"
+#include "brand/text.h"
+#include "brand/tone.h"
 
 #include <gtkmm/progressbar.h>
 #include <ranges>

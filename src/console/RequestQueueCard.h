@@ -1,9 +1,9 @@
 #pragma once
 
-#include "KeyedRows.h"
-#include "RequestItem.h"
-#include "buttons.h"
-#include "stacks.h"
+#include "brand/buttons.h"
+#include "layout/KeyedRows.h"
+#include "layout/stacks.h"
+#include "workspace/RequestItem.h"
 
 namespace quorvel {
 

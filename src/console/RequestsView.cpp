@@ -1,13 +1,13 @@
-#include "RequestsView.h"
+#include "console/RequestsView.h"
 
-#include "SectionHeader.h"
-#include "StatusPill.h"
-#include "buttons.h"
-#include "card.h"
-#include "observe.h"
-#include "text.h"
-#include "tone.h"
-#include "trailingTexts.h"
+#include "brand/SectionHeader.h"
+#include "brand/StatusPill.h"
+#include "brand/buttons.h"
+#include "brand/card.h"
+#include "brand/text.h"
+#include "brand/tone.h"
+#include "console/trailingTexts.h"
+#include "observation/observe.h"
 
 #include <array>
 #include <gtkmm/progressbar.h>

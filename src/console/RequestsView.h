@@ -1,8 +1,8 @@
 #pragma once
 
-#include "LazyRows.h"
-#include "WorkspaceStore.h"
-#include "stacks.h"
+#include "layout/LazyRows.h"
+#include "layout/stacks.h"
+#include "workspace/WorkspaceStore.h"
 
 namespace quorvel {
 

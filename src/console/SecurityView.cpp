@@ -1,15 +1,15 @@
-#include "SecurityView.h"
+#include "console/SecurityView.h"
 
-#include "Frame.h"
-#include "KeyedRows.h"
-#include "ModelSwitch.h"
-#include "SectionHeader.h"
-#include "StatusPill.h"
-#include "buttons.h"
-#include "card.h"
-#include "observe.h"
-#include "symbol.h"
-#include "tone.h"
+#include "brand/ModelSwitch.h"
+#include "brand/SectionHeader.h"
+#include "brand/StatusPill.h"
+#include "brand/buttons.h"
+#include "brand/card.h"
+#include "brand/symbol.h"
+#include "brand/tone.h"
+#include "layout/Frame.h"
+#include "layout/KeyedRows.h"
+#include "observation/observe.h"
 
 #include <map>
 #include <string>

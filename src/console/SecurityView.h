@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Preferences.h"
-#include "WorkspaceStore.h"
-#include "stacks.h"
+#include "layout/stacks.h"
+#include "preferences/Preferences.h"
+#include "workspace/WorkspaceStore.h"
 
 namespace quorvel {
 

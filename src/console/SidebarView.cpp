@@ -1,13 +1,13 @@
-#include "SidebarView.h"
+#include "console/SidebarView.h"
 
-#include "BrandMark.h"
-#include "Frame.h"
-#include "KeyedRows.h"
-#include "StatusPill.h"
-#include "buttons.h"
-#include "observe.h"
-#include "symbol.h"
-#include "tone.h"
+#include "brand/BrandMark.h"
+#include "brand/StatusPill.h"
+#include "brand/buttons.h"
+#include "brand/symbol.h"
+#include "brand/tone.h"
+#include "layout/Frame.h"
+#include "layout/KeyedRows.h"
+#include "observation/observe.h"
 
 #include <array>
 #include <gtkmm/scrolledwindow.h>

@@ -1,6 +1,6 @@
-#include "trailingTexts.h"
+#include "console/trailingTexts.h"
 
-#include "stacks.h"
+#include "layout/stacks.h"
 
 namespace quorvel {
 

@@ -1,4 +1,4 @@
-#include "AdaptiveGrid.h"
+#include "layout/AdaptiveGrid.h"
 
 #include <algorithm>
 #include <span>

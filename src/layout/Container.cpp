@@ -1,4 +1,4 @@
-#include "Container.h"
+#include "layout/Container.h"
 
 namespace quorvel {
 

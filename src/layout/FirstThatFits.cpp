@@ -1,6 +1,6 @@
-#include "FirstThatFits.h"
+#include "layout/FirstThatFits.h"
 
-#include "RowLayout.h"
+#include "layout/RowLayout.h"
 
 #include <algorithm>
 

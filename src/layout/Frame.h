@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Container.h"
+#include "layout/Container.h"
 
 #include <optional>
 

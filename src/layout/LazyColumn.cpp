@@ -1,4 +1,4 @@
-#include "LazyColumn.h"
+#include "layout/LazyColumn.h"
 
 #include <algorithm>
 #include <numeric>

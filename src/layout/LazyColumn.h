@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Container.h"
-#include "RowHeights.h"
+#include "layout/Container.h"
+#include "layout/RowHeights.h"
 
 #include <gtkmm/adjustment.h>
 #include <gtkmm/viewport.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KeyedRows.h"
-#include "LazyColumn.h"
+#include "layout/KeyedRows.h"
+#include "layout/LazyColumn.h"
 
 #include <deque>
 #include <ranges>

@@ -1,4 +1,4 @@
-#include "RowLayout.h"
+#include "layout/RowLayout.h"
 
 #include <algorithm>
 #include <gtk/gtk.h>

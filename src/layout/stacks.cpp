@@ -1,4 +1,4 @@
-#include "stacks.h"
+#include "layout/stacks.h"
 
 #include <gtkmm/separator.h>
 

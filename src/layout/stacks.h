@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RowLayout.h"
+#include "layout/RowLayout.h"
 
 #include <gtkmm/box.h>
 #include <initializer_list>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ObservableObject.h"
+#include "observation/ObservableObject.h"
 
 #include <memory>
 

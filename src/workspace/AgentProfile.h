@@ -1,8 +1,8 @@
 #pragma once
 
-#include "AccentTone.h"
-#include "AgentLoad.h"
-#include "Record.h"
+#include "vocabulary/AccentTone.h"
+#include "workspace/AgentLoad.h"
+#include "workspace/Record.h"
 
 namespace quorvel {
 

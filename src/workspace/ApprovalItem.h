@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ApprovalState.h"
-#include "Record.h"
+#include "workspace/ApprovalState.h"
+#include "workspace/Record.h"
 
 namespace quorvel {
 

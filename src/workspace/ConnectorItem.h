@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AccentTone.h"
-#include "Record.h"
+#include "vocabulary/AccentTone.h"
+#include "workspace/Record.h"
 
 namespace quorvel {
 

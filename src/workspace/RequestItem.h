@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Record.h"
-#include "RequestStatus.h"
+#include "workspace/Record.h"
+#include "workspace/RequestStatus.h"
 
 namespace quorvel {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AccentTone.h"
+#include "vocabulary/AccentTone.h"
 
 namespace quorvel {
 

@@ -1,4 +1,4 @@
-#include "SampleData.h"
+#include "workspace/SampleData.h"
 
 namespace quorvel::SampleData {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ActivityItem.h"
-#include "AgentProfile.h"
-#include "ApprovalItem.h"
-#include "ConnectorItem.h"
-#include "PricingPlan.h"
-#include "RequestItem.h"
+#include "workspace/ActivityItem.h"
+#include "workspace/AgentProfile.h"
+#include "workspace/ApprovalItem.h"
+#include "workspace/ConnectorItem.h"
+#include "workspace/PricingPlan.h"
+#include "workspace/RequestItem.h"
 
 /// A small business's day: what every new workspace starts from.
 ///

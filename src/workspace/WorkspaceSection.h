@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Enumeration.h"
+#include "vocabulary/Enumeration.h"
 
 namespace quorvel {
 

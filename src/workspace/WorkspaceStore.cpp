@@ -1,4 +1,4 @@
-#include "WorkspaceStore.h"
+#include "workspace/WorkspaceStore.h"
 
 #include <algorithm>
 #include <glib.h>

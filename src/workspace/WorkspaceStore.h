@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Published.h"
-#include "SampleData.h"
-#include "WorkspaceSection.h"
+#include "observation/Published.h"
+#include "workspace/SampleData.h"
+#include "workspace/WorkspaceSection.h"
 
 namespace quorvel {
 

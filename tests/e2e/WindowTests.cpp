@@ -1,4 +1,4 @@
-#include "ClientTest.h"
+#include "e2e/stage/ClientTest.h"
 
 namespace quorvel::e2e {
 namespace {

@@ -1,11 +1,11 @@
-#include "RealInput.h"
+#include "support/RealInput.h"
 
 #include <gdk/x11/gdkx.h>
 #include <glibmm/spawn.h>
 #include <gtkmm/native.h>
 #include <stdexcept>
 
-namespace quorvel::testing {
+namespace quorvel::tests {
 namespace {
 
 void xdotool(std::vector<std::string> arguments) {
@@ -42,4 +42,4 @@ void releaseKey(const std::string& name) {
   xdotool({"keyup", name});
 }
 
-} // namespace quorvel::testing
+} // namespace quorvel::tests

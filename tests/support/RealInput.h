@@ -3,7 +3,7 @@
 #include <gtkmm/widget.h>
 #include <string>
 
-namespace quorvel::testing {
+namespace quorvel::tests {
 
 // Clicks and keys that take the whole way through the display server, as a user's do. The pointer and the
 // keyboard belong to the display, so tests that use them run by themselves.
@@ -16,4 +16,4 @@ void strikeKey(const std::string& name);
 void holdKey(const std::string& name);
 void releaseKey(const std::string& name);
 
-} // namespace quorvel::testing
+} // namespace quorvel::tests

@@ -4,7 +4,7 @@
 #include <glib.h>
 #include <string>
 
-namespace quorvel::testing {
+namespace quorvel::tests {
 
 /// A folder that is there as long as this object.
 struct TemporaryFolder {
@@ -15,4 +15,4 @@ struct TemporaryFolder {
   }();
 };
 
-} // namespace quorvel::testing
+} // namespace quorvel::tests

@@ -1,8 +1,8 @@
-#include "TextChecks.h"
+#include "support/TextChecks.h"
 
-#include "UiStage.h"
+#include "support/TestWindow.h"
 
-namespace quorvel::testing {
+namespace quorvel::tests {
 namespace {
 
 bool isInside(const Gdk::Rectangle& inner, const Gtk::Widget& outer) {
@@ -46,4 +46,4 @@ std::vector<std::string> overlappingTexts(Gtk::Widget& screen) {
   return result;
 }
 
-} // namespace quorvel::testing
+} // namespace quorvel::tests

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace quorvel::testing {
+namespace quorvel::tests {
 
 /// The texts of a screen that are cut, higher than their room, or stick out of a card or pill around them. A
 /// text that keeps to one line may end in an ellipsis, and what is scrolled may lie out of sight.
@@ -13,4 +13,4 @@ std::vector<std::string> cutTexts(Gtk::Widget& screen);
 /// Each pair of texts that lie over one another.
 std::vector<std::string> overlappingTexts(Gtk::Widget& screen);
 
-} // namespace quorvel::testing
+} // namespace quorvel::tests

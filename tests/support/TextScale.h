@@ -2,7 +2,7 @@
 
 #include <gtkmm/settings.h>
 
-namespace quorvel::testing {
+namespace quorvel::tests {
 
 /// The desktop's text size, as a factor of the usual one, for as long as this lives.
 struct TextScale {
@@ -15,4 +15,4 @@ struct TextScale {
   int before = dpi;
 };
 
-} // namespace quorvel::testing
+} // namespace quorvel::tests

@@ -1,4 +1,4 @@
-#include "Accessible.h"
+#include "e2e/stage/Accessible.h"
 
 namespace quorvel::e2e {
 namespace {

@@ -1,6 +1,6 @@
-#include "ChildProcess.h"
+#include "e2e/stage/ChildProcess.h"
 
-#include "eventually.h"
+#include "e2e/stage/eventually.h"
 
 #include <csignal>
 #include <cstdlib>

@@ -1,7 +1,7 @@
-#include "Client.h"
+#include "e2e/stage/Client.h"
 
-#include "Stage.h"
-#include "eventually.h"
+#include "e2e/stage/Stage.h"
+#include "e2e/stage/eventually.h"
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Accessible.h"
-#include "ChildProcess.h"
+#include "e2e/stage/Accessible.h"
+#include "e2e/stage/ChildProcess.h"
 
 #include <map>
 #include <string>

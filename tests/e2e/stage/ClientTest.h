@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Client.h"
-#include "Stage.h"
-#include "eventually.h"
+#include "e2e/stage/Client.h"
+#include "e2e/stage/Stage.h"
+#include "e2e/stage/eventually.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>

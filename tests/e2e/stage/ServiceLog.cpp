@@ -1,4 +1,4 @@
-#include "ServiceLog.h"
+#include "e2e/stage/ServiceLog.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,6 +1,6 @@
-#include "Stage.h"
+#include "e2e/stage/Stage.h"
 
-#include "eventually.h"
+#include "e2e/stage/eventually.h"
 
 #include <cstdlib>
 #include <fstream>

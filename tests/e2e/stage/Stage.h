@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ChildProcess.h"
-#include "ServiceLog.h"
+#include "e2e/stage/ChildProcess.h"
+#include "e2e/stage/ServiceLog.h"
 
 #include <filesystem>
 #include <string>

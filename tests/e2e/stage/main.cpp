@@ -1,5 +1,5 @@
-#include "ChildProcess.h"
-#include "Stage.h"
+#include "e2e/stage/ChildProcess.h"
+#include "e2e/stage/Stage.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -23,6 +23,7 @@ int runInPrivateNetwork(const Arguments& ourselves) {
                        QUORVEL_SOURCE_DIR "/demo/pages",
                        "--log",
                        folder / "requests.log",
+                       "--own-displays",
                        "--"};
   command.insert(command.end(), ourselves.begin(), ourselves.end());
   ChildProcess inside(command, {{Stage::variable, folder.string()}});

@@ -1,18 +1,18 @@
-#include "BrandMark.h"
-#include "MetricTile.h"
-#include "QuorvelBrand.h"
-#include "SectionHeader.h"
-#include "StatusPill.h"
-#include "UiStage.h"
-#include "text.h"
-#include "tone.h"
+#include "brand/BrandMark.h"
+#include "brand/MetricTile.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/SectionHeader.h"
+#include "brand/StatusPill.h"
+#include "brand/text.h"
+#include "brand/tone.h"
+#include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::DoubleNear;
 using ::testing::ElementsAre;
 
@@ -37,7 +37,7 @@ TEST(BrandMark, TheBarOfASmallMarkIsThreePointsHighAndOfALargeOneGrows) {
 TEST(BrandMark, IsASquareLightTileOfExactlyItsSize) {
   auto* mark = Gtk::make_managed<BrandMark>(104);
   auto* row = hstack(0, {mark, hspacer()});
-  UiStage stage(*row, 300);
+  TestWindow stage(*row, 300);
   EXPECT_EQ(mark->get_width(), 104);
   EXPECT_EQ(mark->get_height(), 104);
   EXPECT_THAT(stage.pixel(52, 8), IsColor(QuorvelBrand::control));
@@ -52,7 +52,7 @@ struct DrawnPill {
   Gdk::RGBA textColor() { return labelled(pill, "Live")->get_style_context()->get_color(); }
 
   StatusPill& pill;
-  UiStage stage;
+  TestWindow stage;
 };
 
 TEST(StatusPill, AProminentInkPillIsAWhiteCapsuleWithNearBlackText) {
@@ -70,7 +70,7 @@ TEST(StatusPill, APlainInkPillIsAFaintWhiteTintWithWhiteText) {
 TEST(StatusPill, PadsItsTitleByNineAndFivePoints) {
   auto* pill = Gtk::make_managed<StatusPill>("Connected", AccentTone::green);
   auto* row = hstack(0, {pill, hspacer()});
-  UiStage stage(*row, 300);
+  TestWindow stage(*row, 300);
   const auto title = boundsIn(*pill, *labelled(*pill, "Connected"));
   EXPECT_EQ(title.get_x(), 9);
   EXPECT_EQ(title.get_y(), 5);
@@ -88,7 +88,7 @@ TEST(StatusPill, ShowsAnotherStateInPlace) {
 
 TEST(SectionHeader, ShowsItsEyebrowInUpperCase) {
   auto* header = Gtk::make_managed<SectionHeader>("Today at a glance", "Title", "Detail");
-  UiStage stage(*header, 300);
+  TestWindow stage(*header, 300);
   EXPECT_THAT(texts(*header), ElementsAre("TODAY AT A GLANCE", "Title", "Detail"));
 }
 
@@ -96,7 +96,7 @@ TEST(SectionHeader, ItsDetailWrapsAndIsNeverCut) {
   auto* header = Gtk::make_managed<SectionHeader>(
       "Eyebrow", "Title",
       "A detail that is much too long for the little width that this window leaves to it.");
-  UiStage stage(*header, 200);
+  TestWindow stage(*header, 200);
   auto* detail = all<Gtk::Label>(*header).back();
   EXPECT_GT(detail->get_layout()->get_line_count(), 1);
   EXPECT_FALSE(detail->get_layout()->is_ellipsized());
@@ -104,7 +104,7 @@ TEST(SectionHeader, ItsDetailWrapsAndIsNeverCut) {
 
 TEST(MetricTile, ShowsItsFourPartsAndANewValueInPlace) {
   auto* tile = Gtk::make_managed<MetricTile>("Active requests", "3", "Routed or drafting", AccentTone::blue);
-  UiStage stage(*tile, 180);
+  TestWindow stage(*tile, 180);
   tile->setValue("4");
   EXPECT_THAT(texts(*tile), ElementsAre("Active requests", "4", "Routed or drafting"));
   EXPECT_EQ(boundsIn(*tile, *labelled(*tile, "4")).get_x(), 18);
@@ -115,7 +115,7 @@ TEST(Tone, ATextTakesTheToneOfItselfAndOfAContainer) {
   auto* itself = toned(AccentTone::gold, text("Needs review", look));
   auto* inside = text("Approved", look);
   auto* both = vstack(0, {itself, toned(AccentTone::green, hstack(0, {inside}))});
-  UiStage stage(*both, 300);
+  TestWindow stage(*both, 300);
   EXPECT_THAT(inkOf(*itself), IsColor(QuorvelBrand::gold));
   EXPECT_THAT(inkOf(*inside), IsColor(QuorvelBrand::green));
 }
@@ -123,7 +123,7 @@ TEST(Tone, ATextTakesTheToneOfItselfAndOfAContainer) {
 TEST(Typography, TextGrowsWithTheTextSizeOfTheDesktop) {
   auto* label = text("Connectors", {TextStyle::body});
   auto* row = hstack(0, {label, hspacer()});
-  UiStage stage(*row, 400);
+  TestWindow stage(*row, 400);
   const int before = label->get_width();
   auto settings = Gtk::Settings::get_default();
   const int dpi = settings->property_gtk_xft_dpi();

@@ -1,13 +1,13 @@
-#include "ModelSwitch.h"
-#include "UiStage.h"
-#include "stacks.h"
+#include "brand/ModelSwitch.h"
+#include "layout/stacks.h"
+#include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 
 /// A switch on screen, and a model that takes what is written unless it is stubborn.
@@ -28,7 +28,7 @@ struct ModelSwitchTest : ::testing::Test {
     if (!isStubborn)
       toggle.show(isOn);
   });
-  UiStage stage{*hstack(0, {&toggle, hspacer()}), 200};
+  TestWindow stage{*hstack(0, {&toggle, hspacer()}), 200};
 };
 
 TEST_F(ModelSwitchTest, ShowingAValueWritesNothing) {

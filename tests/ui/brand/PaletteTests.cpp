@@ -1,15 +1,15 @@
-#include "QuorvelBrand.h"
-#include "UiStage.h"
-#include "buttons.h"
-#include "card.h"
-#include "stacks.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/buttons.h"
+#include "brand/card.h"
+#include "layout/stacks.h"
+#include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 
 TEST(Palette, InkIsWhiteAndItsTintIsWhiteAtAFaintOpacity) {
   EXPECT_EQ(color(AccentTone::ink), (Color{1, 1, 1, 1}));
@@ -54,7 +54,7 @@ TEST(QuorvelCard, PadsByEighteenPointsUnlessToldOtherwise) {
   auto* content = block();
   auto* card = quorvelCard(content);
   auto* row = hstack(0, {card});
-  UiStage stage(*row, 300);
+  TestWindow stage(*row, 300);
   EXPECT_EQ(card->get_width(), 136);
   EXPECT_EQ(card->get_height(), 76);
   EXPECT_EQ(boundsIn(*card, *content).get_x(), 18);
@@ -64,7 +64,7 @@ TEST(QuorvelCard, WithoutPaddingTheFrameIsTightAroundTheContent) {
   auto* content = block();
   auto* card = quorvelCard(content, 0);
   auto* row = hstack(0, {card});
-  UiStage stage(*row, 300);
+  TestWindow stage(*row, 300);
   EXPECT_EQ(card->get_width(), 100);
   EXPECT_EQ(card->get_height(), 40);
 }
@@ -72,7 +72,7 @@ TEST(QuorvelCard, WithoutPaddingTheFrameIsTightAroundTheContent) {
 TEST(QuorvelCard, IsFilledWithThePanelColour) {
   auto* card = quorvelCard(block());
   auto* row = hstack(0, {card});
-  UiStage stage(*row, 300);
+  TestWindow stage(*row, 300);
   EXPECT_THAT(stage.pixel(60, 30), IsColor(QuorvelBrand::panel));
 }
 

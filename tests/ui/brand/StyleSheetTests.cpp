@@ -1,6 +1,6 @@
-#include "StyleSheet.h"
+#include "brand/StyleSheet.h"
 
-#include "UiStage.h"
+#include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
 #include <regex>

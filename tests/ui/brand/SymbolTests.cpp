@@ -1,6 +1,6 @@
-#include "QuorvelBrand.h"
-#include "UiStage.h"
-#include "symbol.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/symbol.h"
+#include "support/TestWindow.h"
 
 #include <array>
 #include <gmock/gmock.h>
@@ -8,9 +8,9 @@
 namespace quorvel {
 namespace {
 
-using testing::boundsIn;
-using testing::IsColor;
-using testing::UiStage;
+using tests::boundsIn;
+using tests::IsColor;
+using tests::TestWindow;
 
 constexpr std::array names{"arrow.clockwise",
                            "arrow.up",
@@ -81,7 +81,7 @@ class EverySymbol : public ::testing::TestWithParam<const char*> {
   }
 
   Gtk::Image* image_ = drawn(GetParam());
-  UiStage stage_{*image_, side, side};
+  TestWindow stage_{*image_, side, side};
   std::vector<unsigned char> picture_ = stage_.picture();
   int left_ = boundsIn(stage_.window(), *image_).get_x(), top_ = boundsIn(stage_.window(), *image_).get_y();
   int stride_ = static_cast<int>(picture_.size()) / stage_.window().get_height();

@@ -1,25 +1,25 @@
-#include "ContentView.h"
+#include "client/ContentView.h"
 
-#include "DesktopClientNavRow.h"
-#include "DesktopClientSidebar.h"
-#include "DesktopClientToolbar.h"
-#include "ModelFixture.h"
-#include "QuorvelBrand.h"
-#include "QuorvelWebView.h"
-#include "TextChecks.h"
-#include "TextScale.h"
+#include "brand/QuorvelBrand.h"
+#include "client/DesktopClientNavRow.h"
+#include "client/DesktopClientSidebar.h"
+#include "client/DesktopClientToolbar.h"
+#include "client/QuorvelWebView.h"
+#include "support/TextChecks.h"
+#include "support/TextScale.h"
+#include "ui/client/ModelTest.h"
 
 namespace quorvel {
 namespace {
 
-using stage::boundsIn;
-using stage::buttonNamed;
-using stage::IsColor;
-using stage::labelled;
-using stage::UiStage;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using tests::boundsIn;
+using tests::buttonNamed;
+using tests::IsColor;
+using tests::labelled;
+using tests::TestWindow;
 
 MATCHER_P4(IsRectangle, x, y, width, height, "") {
   *result_listener << arg.get_x() << ", " << arg.get_y() << ", " << arg.get_width() << " by "
@@ -38,7 +38,7 @@ class ContentViewTest : public ModelTest {
 
   void open() {
     view = std::make_unique<ContentView>(*model);
-    screen = std::make_unique<UiStage>(*view, ContentView::minimumWidth, ContentView::minimumHeight);
+    screen = std::make_unique<TestWindow>(*view, ContentView::minimumWidth, ContentView::minimumHeight);
   }
   void close() {
     screen.reset();
@@ -47,12 +47,12 @@ class ContentViewTest : public ModelTest {
   /// Shows a page and what the model then says.
   void showPage(const std::string& path) {
     show(path);
-    stage::drawFrame(*view);
+    tests::drawFrame(*view);
   }
 
   template <class Widget>
   Widget& the() {
-    const auto found = stage::all<Widget>(*view);
+    const auto found = tests::all<Widget>(*view);
     EXPECT_EQ(found.size(), 1u);
     return *found.front();
   }
@@ -60,19 +60,19 @@ class ContentViewTest : public ModelTest {
   Gdk::Rectangle bounds(const Gtk::Widget& widget) { return boundsIn(*view, widget); }
   std::vector<std::string> highlighted() {
     std::vector<std::string> titles;
-    for (auto* row : stage::all<DesktopClientNavRow>(*view))
-      if (stage::isAccessiblySelected(*stage::all<Gtk::Button>(*row).front()))
-        titles.push_back(stage::texts(*row).front());
+    for (auto* row : tests::all<DesktopClientNavRow>(*view))
+      if (tests::isAccessiblySelected(*tests::all<Gtk::Button>(*row).front()))
+        titles.push_back(tests::texts(*row).front());
     return titles;
   }
 
   std::unique_ptr<ContentView> view;
-  std::unique_ptr<UiStage> screen;
+  std::unique_ptr<TestWindow> screen;
 };
 
 TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
   EXPECT_THAT(
-      stage::texts(*view),
+      tests::texts(*view),
       ElementsAre(
           "Quorvel", "Desktop agent client", "+ New chat", "Live app", "Agent workspace",
           "Chats and approvals", "Connectors", "Apps and access", "Browser workspace", "Page context",
@@ -81,14 +81,14 @@ TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
           "This app is connected to app.quorvel.example, so sign-in, sessions, billing, connectors, and "
           "the agent workspace run through the live service.",
           server.address("/agent.html"), "Open externally"));
-  EXPECT_THAT(stage::cutTexts(*view), IsEmpty());
+  EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
 }
 
 TEST_F(ContentViewTest, InLargeTextNothingIsCut) {
   close();
-  const stage::TextScale large(1.5);
+  const tests::TextScale large(1.5);
   open();
-  EXPECT_THAT(stage::cutTexts(*view), IsEmpty());
+  EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
   EXPECT_EQ(view->get_height(), 760) << "the destinations scroll where there is no room for all of them";
 }
 
@@ -119,10 +119,10 @@ TEST_F(ContentViewTest, AWiderWindowGivesThePageTheWholeGain) {
 TEST_F(ContentViewTest, TheSidebarsPartsStandWhereTheyBelong) {
   EXPECT_THAT(bounds(button("+ New chat")),
               IsRectangle(20, 82, 266, bounds(button("+ New chat")).get_height()));
-  const auto rows = stage::all<DesktopClientNavRow>(*view);
+  const auto rows = tests::all<DesktopClientNavRow>(*view);
   ASSERT_EQ(rows.size(), 6u);
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    const auto row = bounds(*stage::all<Gtk::Button>(*rows[i]).front());
+    const auto row = bounds(*tests::all<Gtk::Button>(*rows[i]).front());
     EXPECT_EQ(row.get_x(), 12);
     EXPECT_EQ(row.get_width(), 282);
     if (i > 0) {
@@ -159,16 +159,16 @@ TEST_F(ContentViewTest, TheHighlightedRowIsRaisedAndOutlinedAndTheOthersHaveNoBo
   const auto place = bounds(*selected);
   const int middle = place.get_y() + place.get_height() / 2;
   EXPECT_THAT(screen->pixel(place.get_x() + 6, middle), IsColor(QuorvelBrand::panelRaised));
-  EXPECT_THAT(stage::inkOf(*labelled(*view, "Agent workspace")), IsColor(QuorvelBrand::ink));
-  EXPECT_THAT(stage::inkOf(*stage::all<Gtk::Image>(*selected).front()), IsColor(QuorvelBrand::green));
-  EXPECT_THAT(stage::inkOf(*labelled(*view, "Chats and approvals")), IsColor(QuorvelBrand::muted));
+  EXPECT_THAT(tests::inkOf(*labelled(*view, "Agent workspace")), IsColor(QuorvelBrand::ink));
+  EXPECT_THAT(tests::inkOf(*tests::all<Gtk::Image>(*selected).front()), IsColor(QuorvelBrand::green));
+  EXPECT_THAT(tests::inkOf(*labelled(*view, "Chats and approvals")), IsColor(QuorvelBrand::muted));
 
   auto* other = buttonNamed(*view, "Connectors");
   const auto otherPlace = bounds(*other);
   EXPECT_EQ(screen->pixel(otherPlace.get_x() + 6, otherPlace.get_y() + 10),
             screen->pixel(otherPlace.get_x() - 6, otherPlace.get_y() + 10));
-  EXPECT_THAT(stage::inkOf(*labelled(*view, "Connectors")), IsColor(QuorvelBrand::secondaryInk));
-  EXPECT_THAT(stage::inkOf(*stage::all<Gtk::Image>(*other).front()), IsColor(QuorvelBrand::muted));
+  EXPECT_THAT(tests::inkOf(*labelled(*view, "Connectors")), IsColor(QuorvelBrand::secondaryInk));
+  EXPECT_THAT(tests::inkOf(*tests::all<Gtk::Image>(*other).front()), IsColor(QuorvelBrand::muted));
 }
 
 TEST_F(ContentViewTest, EachRowAsksForItsDestination) {
@@ -181,7 +181,7 @@ TEST_F(ContentViewTest, EachRowAsksForItsDestination) {
       {"Support", QuorvelRoute::support},
       {"+ New chat", QuorvelRoute::agent}};
   for (const auto& [title, route] : destinations) {
-    stage::click(button(title));
+    tests::click(button(title));
     EXPECT_EQ(*model->currentURLString, url(route)) << title;
   }
 }
@@ -192,15 +192,15 @@ TEST_F(ContentViewTest, ASpinnerFloatsAtTheTopCentreOfThePageWhileItLoadsAndOnly
 
   server.silence("/silent.html");
   model->load(server.address("/silent.html"));
-  ASSERT_TRUE(stage::waitUntil([&] { return spinner.get_mapped() && spinner.get_width() > 0; }));
+  ASSERT_TRUE(tests::waitUntil([&] { return spinner.get_mapped() && spinner.get_width() > 0; }));
   EXPECT_TRUE(spinner.get_spinning());
   const auto page = bounds(the<QuorvelWebView>());
   const auto place = bounds(spinner);
   EXPECT_EQ(place.get_y(), page.get_y() + 10);
   EXPECT_NEAR(place.get_x() + place.get_width() / 2, page.get_x() + page.get_width() / 2, 1);
 
-  webkit_web_view_stop_loading(model->webView());
-  EXPECT_TRUE(stage::waitUntil([&] { return !spinner.get_mapped(); }));
+  webkit_web_view_stop_loading(webView());
+  EXPECT_TRUE(tests::waitUntil([&] { return !spinner.get_mapped(); }));
   EXPECT_FALSE(spinner.get_spinning());
 }
 
@@ -225,40 +225,40 @@ TEST_F(ContentViewTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlwa
   EXPECT_TRUE(button("Back").get_sensitive());
   EXPECT_FALSE(button("Forward").get_sensitive());
 
-  stage::click(button("Back"));
-  ASSERT_TRUE(stage::waitUntil([&] { return button("Forward").get_sensitive(); }));
+  tests::click(button("Back"));
+  ASSERT_TRUE(tests::waitUntil([&] { return button("Forward").get_sensitive(); }));
   EXPECT_FALSE(button("Back").get_sensitive());
 
-  stage::click(button("Forward"));
-  EXPECT_TRUE(stage::waitUntil([&] { return button("Back").get_sensitive(); }));
+  tests::click(button("Forward"));
+  EXPECT_TRUE(tests::waitUntil([&] { return button("Back").get_sensitive(); }));
 }
 
 TEST_F(ContentViewTest, AButtonThatIsDisabledUnderTheFocusHandsItToTheOneBeside) {
   showPage("/agent.html#connectorsCenter");
   button("Back").grab_focus();
   ASSERT_TRUE(button("Back").has_focus());
-  stage::click(button("Back"));
-  ASSERT_TRUE(stage::waitUntil([&] { return !button("Back").get_sensitive(); }));
+  tests::click(button("Back"));
+  ASSERT_TRUE(tests::waitUntil([&] { return !button("Back").get_sensitive(); }));
   EXPECT_TRUE(button("Reload").has_focus());
 }
 
 TEST_F(ContentViewTest, ReloadAndOpenExternallyDoTheirWork) {
-  stage::click(button("Reload"));
-  EXPECT_TRUE(stage::waitUntil([&] { return server.count("/agent.html") == 2; }));
+  tests::click(button("Reload"));
+  EXPECT_TRUE(tests::waitUntil([&] { return server.count("/agent.html") == 2; }));
   waitForRest();
-  stage::click(button("Open externally"));
-  EXPECT_THAT(system->opened, ElementsAre(server.address("/agent.html")));
+  tests::click(button("Open externally"));
+  EXPECT_THAT(opened, ElementsAre(server.address("/agent.html")));
 }
 
 TEST_F(ContentViewTest, ButtonsAndRowsHaveTheirNamesAndTooltips) {
   for (const char* name : {"Back", "Forward", "Reload"}) {
     EXPECT_EQ(button(name).get_tooltip_text(), name);
-    EXPECT_TRUE(stage::hasAccessibleName(button(name), name));
+    EXPECT_TRUE(tests::hasAccessibleName(button(name), name));
   }
   EXPECT_EQ(button("Open externally").get_tooltip_text(), "Open current page in browser");
-  EXPECT_TRUE(stage::hasAccessibleName(button("Open externally"), "Open externally"));
-  EXPECT_TRUE(stage::hasAccessibleName(button("Pricing"), "Pricing"));
-  EXPECT_TRUE(stage::hasAccessibleDescription(button("Pricing"), "Plans and billing"));
+  EXPECT_TRUE(tests::hasAccessibleName(button("Open externally"), "Open externally"));
+  EXPECT_TRUE(tests::hasAccessibleName(button("Pricing"), "Pricing"));
+  EXPECT_TRUE(tests::hasAccessibleDescription(button("Pricing"), "Plans and billing"));
 }
 
 TEST_F(ContentViewTest, TheToolbarHasItsColourAndALineBelow) {
@@ -281,19 +281,19 @@ TEST_F(ContentViewTest, ResizingNeverReloads) {
 
 TEST_F(ContentViewTest, AChangeOfTitleOrLoadingNeitherReloadsNorReplacesThePage) {
   auto* shown = the<QuorvelWebView>().get_first_child();
-  ASSERT_EQ(shown->gobj(), GTK_WIDGET(model->webView()));
+  ASSERT_EQ(shown->gobj(), GTK_WIDGET(webView()));
   runScript("document.title = 'Another'");
-  ASSERT_TRUE(stage::waitUntil([&] { return *model->title == "Another"; }));
-  stage::drawFrame(*view);
+  ASSERT_TRUE(tests::waitUntil([&] { return *model->title == "Another"; }));
+  tests::drawFrame(*view);
   EXPECT_EQ(the<QuorvelWebView>().get_first_child(), shown);
   EXPECT_EQ(server.count("/agent.html"), 1);
 }
 
 TEST_F(ContentViewTest, MakingAndDroppingTheWindowNeverTouchesThePage) {
   runScript("document.title = 'kept'");
-  ASSERT_TRUE(stage::waitUntil([&] { return *model->title == "kept"; }));
+  ASSERT_TRUE(tests::waitUntil([&] { return *model->title == "kept"; }));
   close();
-  EXPECT_EQ(gtk_widget_get_parent(GTK_WIDGET(model->webView())), nullptr);
+  EXPECT_EQ(gtk_widget_get_parent(GTK_WIDGET(webView())), nullptr);
   open();
   settle();
   EXPECT_EQ(*model->title, "kept");
@@ -309,7 +309,7 @@ TEST_F(ContentViewTest, AnotherPageCanLoadWhileThePageHasNoWindow) {
 
 TEST_F(ContentViewTest, ThePageIsMovedToItsNewestHost) {
   QuorvelWebView newest(*model);
-  EXPECT_EQ(newest.get_first_child()->gobj(), GTK_WIDGET(model->webView()));
+  EXPECT_EQ(newest.get_first_child()->gobj(), GTK_WIDGET(webView()));
   EXPECT_EQ(the<QuorvelWebView>().get_first_child(), nullptr);
 }
 
@@ -322,8 +322,8 @@ TEST_F(ContentViewTest, TheTabKeyGoesFromTheSidebarOverTheToolbarIntoThePageAndO
   EXPECT_TRUE(window.child_focus(Gtk::DirectionType::TAB_FORWARD));
   EXPECT_EQ(focused(), &button("Open externally"));
   EXPECT_TRUE(window.child_focus(Gtk::DirectionType::TAB_FORWARD));
-  EXPECT_EQ(focused()->gobj(), GTK_WIDGET(model->webView()));
-  EXPECT_FALSE(gtk_widget_child_focus(GTK_WIDGET(model->webView()), GTK_DIR_TAB_FORWARD))
+  EXPECT_EQ(focused()->gobj(), GTK_WIDGET(webView()));
+  EXPECT_FALSE(gtk_widget_child_focus(GTK_WIDGET(webView()), GTK_DIR_TAB_FORWARD))
       << "no part of the view is a stop of its own";
 }
 

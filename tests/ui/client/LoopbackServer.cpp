@@ -1,4 +1,4 @@
-#include "LoopbackServer.h"
+#include "ui/client/LoopbackServer.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GObjectPointer.h"
+#include "engine/GObjectPointer.h"
 
 #include <functional>
 #include <libsoup/soup.h>

@@ -1,13 +1,13 @@
-#include "AgentsView.h"
+#include "console/AgentsView.h"
 
-#include "QuorvelBrand.h"
-#include "StatusPill.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/StatusPill.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 using ::testing::Not;
 
@@ -57,7 +57,7 @@ class AgentsTest : public ::testing::Test {
 
   WorkspaceStore store_;
   AgentsView view_{store_};
-  UiStage stage_{view_, 852};
+  TestWindow stage_{view_, 852};
 };
 
 TEST_F(AgentsTest, ShowsTheHeaderAndACardForEveryAgentInTheStoresOrder) {

@@ -1,13 +1,13 @@
-#include "ApprovalsView.h"
+#include "console/ApprovalsView.h"
 
-#include "StatusPill.h"
-#include "UiStage.h"
-#include "buttons.h"
+#include "brand/StatusPill.h"
+#include "brand/buttons.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 
 const std::string replies = "Send three delayed order replies";
@@ -42,7 +42,7 @@ class ApprovalsTest : public ::testing::Test {
 
   WorkspaceStore store_;
   ApprovalsView view_{store_};
-  UiStage stage_{view_, 852};
+  TestWindow stage_{view_, 852};
 };
 
 TEST_F(ApprovalsTest, ShowsEveryGateOfTheSampleWorkspaceWithItsChecksInOrder) {
@@ -200,7 +200,7 @@ TEST(Approvals, TheFocusLeavesForAnotherControlOfTheWindowAfterTheLastDecision) 
   auto* elsewhere = button("Elsewhere", ButtonStyle::bordered, [] {});
   auto* view = Gtk::make_managed<ApprovalsView>(store);
   auto* column = vstack(0, {elsewhere, stretched(view)});
-  UiStage stage(*column, 852);
+  TestWindow stage(*column, 852);
   buttonNamed(*view, "Approve")->grab_focus();
   click(*buttonNamed(*view, "Approve"));
   drawFrame(*column);

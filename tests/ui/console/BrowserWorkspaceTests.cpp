@@ -1,13 +1,13 @@
-#include "BrowserWorkspaceView.h"
+#include "console/BrowserWorkspaceView.h"
 
-#include "QuorvelBrand.h"
-#include "StatusPill.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/StatusPill.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 
 class BrowserWorkspaceTest : public ::testing::Test {
@@ -37,7 +37,7 @@ class BrowserWorkspaceTest : public ::testing::Test {
   }
 
   BrowserWorkspaceView view_;
-  UiStage stage_{view_, 852};
+  TestWindow stage_{view_, 852};
 };
 
 Color over(const Color& ground, const Color& colour, double opacity) {

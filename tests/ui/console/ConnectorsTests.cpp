@@ -1,13 +1,13 @@
-#include "ConnectorsView.h"
+#include "console/ConnectorsView.h"
 
-#include "QuorvelBrand.h"
-#include "StatusPill.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/StatusPill.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 using ::testing::Not;
 
@@ -37,7 +37,7 @@ class ConnectorsTest : public ::testing::Test {
 
   WorkspaceStore store_;
   ConnectorsView view_{store_};
-  UiStage stage_{view_, 852};
+  TestWindow stage_{view_, 852};
 };
 
 TEST_F(ConnectorsTest, ShowsTheHeaderAndEveryConnectorInTheStoresOrder) {

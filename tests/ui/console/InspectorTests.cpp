@@ -1,13 +1,13 @@
-#include "InspectorPanel.h"
+#include "console/InspectorPanel.h"
 
-#include "QuorvelBrand.h"
-#include "StatusPill.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/StatusPill.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::Contains;
 using ::testing::Each;
 using ::testing::ElementsAre;
@@ -35,7 +35,7 @@ class InspectorTest : public ::testing::Test {
 
   WorkspaceStore store_;
   InspectorPanel inspector_{store_};
-  UiStage stage_{inspector_, 320};
+  TestWindow stage_{inspector_, 320};
 };
 
 TEST_F(InspectorTest, ShowsTheSampleWorkspaceFromTheHeaderToTheOldestEntry) {

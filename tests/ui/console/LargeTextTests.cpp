@@ -1,19 +1,19 @@
-#include "AgentsView.h"
-#include "ApprovalsView.h"
-#include "BrowserWorkspaceView.h"
-#include "ConnectorsView.h"
-#include "OverviewView.h"
-#include "PricingView.h"
-#include "RequestsView.h"
-#include "SecurityView.h"
-#include "TextChecks.h"
-#include "TextScale.h"
-#include "UiStage.h"
+#include "console/AgentsView.h"
+#include "console/ApprovalsView.h"
+#include "console/BrowserWorkspaceView.h"
+#include "console/ConnectorsView.h"
+#include "console/OverviewView.h"
+#include "console/PricingView.h"
+#include "console/RequestsView.h"
+#include "console/SecurityView.h"
+#include "support/TestWindow.h"
+#include "support/TextChecks.h"
+#include "support/TextScale.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::Combine;
 using ::testing::IsEmpty;
 using ::testing::Values;
@@ -48,7 +48,7 @@ TEST_P(LargeTextTest, NoTextIsCutAndNoneOverlapsAnother) {
   const TextScale scale(factor);
   Models models;
   auto* view = screen.make(models);
-  UiStage stage(*view, width);
+  TestWindow stage(*view, width);
   EXPECT_EQ(view->get_width(), width) << "the screen would stick out of its column";
   EXPECT_THAT(cutTexts(*view), IsEmpty());
   EXPECT_THAT(overlappingTexts(*view), IsEmpty());

@@ -1,14 +1,14 @@
-#include "OverviewView.h"
+#include "console/OverviewView.h"
 
-#include "BrandMark.h"
-#include "MetricTile.h"
-#include "QuorvelBrand.h"
-#include "UiStage.h"
+#include "brand/BrandMark.h"
+#include "brand/MetricTile.h"
+#include "brand/QuorvelBrand.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
@@ -25,7 +25,7 @@ class OverviewTest : public ::testing::Test {
   void leaveAndComeBack() {
     stage_.reset();
     view_ = std::make_unique<OverviewView>(store_);
-    stage_ = std::make_unique<UiStage>(*view_, 852);
+    stage_ = std::make_unique<TestWindow>(*view_, 852);
   }
 
   Gtk::Widget& cardWith(const std::string& text) {
@@ -55,7 +55,7 @@ class OverviewTest : public ::testing::Test {
 
   WorkspaceStore store_;
   std::unique_ptr<OverviewView> view_ = std::make_unique<OverviewView>(store_);
-  std::unique_ptr<UiStage> stage_ = std::make_unique<UiStage>(*view_, 852);
+  std::unique_ptr<TestWindow> stage_ = std::make_unique<TestWindow>(*view_, 852);
 };
 
 TEST_F(OverviewTest, TheTilesReadThreeTwoFourAndSevenWithTheSampleWorkspace) {
@@ -103,7 +103,7 @@ TEST_F(OverviewTest, NewRequestDoesWhatSendDoes) {
   press("New Request");
   WorkspaceStore other;
   OverviewView otherView(other);
-  UiStage stage(otherView, 852);
+  TestWindow stage(otherView, 852);
   click(*buttonNamed(otherView, "Send request"));
   EXPECT_EQ(withoutIds(store_), withoutIds(other));
   EXPECT_EQ(store_.requests->size(), 5U);

@@ -1,13 +1,13 @@
-#include "PricingView.h"
+#include "console/PricingView.h"
 
-#include "QuorvelBrand.h"
-#include "StatusPill.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/StatusPill.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 
 class PricingTest : public ::testing::Test {
@@ -61,7 +61,7 @@ class PricingTest : public ::testing::Test {
 
   WorkspaceStore store_;
   PricingView view_{store_};
-  UiStage stage_{view_, 852};
+  TestWindow stage_{view_, 852};
 };
 
 TEST_F(PricingTest, ShowsTheHeaderThePlansInOrderAndTheComparison) {

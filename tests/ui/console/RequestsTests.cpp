@@ -1,14 +1,14 @@
-#include "RequestsView.h"
+#include "console/RequestsView.h"
 
-#include "QuorvelBrand.h"
-#include "StatusPill.h"
-#include "TextScale.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/StatusPill.h"
+#include "support/TestWindow.h"
+#include "support/TextScale.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -60,7 +60,7 @@ class RequestsTest : public ::testing::Test {
 
   WorkspaceStore store_;
   RequestsView view_{store_};
-  UiStage stage_{view_, 852};
+  TestWindow stage_{view_, 852};
 };
 
 TEST_F(RequestsTest, ShowsEveryRequestOfTheSampleWorkspaceInOrder) {
@@ -184,7 +184,7 @@ TEST(Requests, TenThousandNewOnesLeaveEveryListWholeAndOnlyTheRowsNearSightBuilt
   auto* view = Gtk::make_managed<RequestsView>(store);
   Gtk::ScrolledWindow scroller;
   scroller.set_child(*padded(28, view));
-  UiStage stage(scroller, 908, 760);
+  TestWindow stage(scroller, 908, 760);
   for (int i = 0; i < 10'000; ++i)
     store.createRequest();
   drawFrame(scroller);
@@ -213,7 +213,7 @@ TEST(Requests, AnAgentKeepsToItsLineInLargeTextAndTheSummaryWraps) {
   const TextScale large(1.5);
   WorkspaceStore store;
   RequestsView view(store);
-  UiStage stage(view, 852);
+  TestWindow stage(view, 852);
   for (const auto& item : *store.requests)
     EXPECT_EQ(labelled(view, item.agent)->get_layout()->get_line_count(), 1) << item.agent;
 }

@@ -1,21 +1,21 @@
-#include "DetailView.h"
+#include "console/DetailView.h"
 
-#include "AgentsView.h"
-#include "ApprovalsView.h"
-#include "BrowserWorkspaceView.h"
-#include "ConnectorsView.h"
-#include "Container.h"
-#include "OverviewView.h"
-#include "PricingView.h"
-#include "RequestsView.h"
-#include "SecurityView.h"
-#include "TemporaryFolder.h"
-#include "UiStage.h"
+#include "console/AgentsView.h"
+#include "console/ApprovalsView.h"
+#include "console/BrowserWorkspaceView.h"
+#include "console/ConnectorsView.h"
+#include "console/OverviewView.h"
+#include "console/PricingView.h"
+#include "console/RequestsView.h"
+#include "console/SecurityView.h"
+#include "layout/Container.h"
+#include "support/TemporaryFolder.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 
@@ -48,7 +48,7 @@ class RouterTest : public ::testing::Test {
   Gtk::Button& outside_ = *Gtk::make_managed<Gtk::Button>("Outside");
   DetailView& router_ = *Gtk::make_managed<DetailView>(store_, preferences_);
   HStack& row_ = *hstack(0, {&outside_, &router_});
-  UiStage stage_{row_, 1000, 760};
+  TestWindow stage_{row_, 1000, 760};
 };
 
 TEST_F(RouterTest, EverySectionHasItsOwnScreen) {

@@ -1,14 +1,14 @@
-#include "SecurityView.h"
+#include "console/SecurityView.h"
 
-#include "QuorvelBrand.h"
-#include "StatusPill.h"
-#include "TemporaryFolder.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "brand/StatusPill.h"
+#include "support/TemporaryFolder.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 
 class SecurityTest : public ::testing::Test {
@@ -48,7 +48,7 @@ class SecurityTest : public ::testing::Test {
   WorkspaceStore store_;
   Preferences preferences_{file_};
   SecurityView view_{store_, preferences_};
-  UiStage stage_{view_, 852};
+  TestWindow stage_{view_, 852};
 };
 
 constexpr const char* spend = "Ad spend changes";

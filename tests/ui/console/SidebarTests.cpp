@@ -1,12 +1,12 @@
-#include "SidebarView.h"
+#include "console/SidebarView.h"
 
-#include "QuorvelBrand.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 
 class SidebarTest : public ::testing::Test {
@@ -46,7 +46,7 @@ class SidebarTest : public ::testing::Test {
 
   WorkspaceStore store_;
   SidebarView sidebar_{store_};
-  UiStage stage_{sidebar_, 272, 760};
+  TestWindow stage_{sidebar_, 272, 760};
 };
 
 TEST_F(SidebarTest, ShowsTheEightSectionsInOrderWithTheThreeBadgesOfTheSampleWorkspace) {

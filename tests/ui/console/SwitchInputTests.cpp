@@ -1,12 +1,12 @@
-#include "ConnectorsView.h"
+#include "console/ConnectorsView.h"
 
-#include "RealInput.h"
-#include "UiStage.h"
+#include "support/RealInput.h"
+#include "support/TestWindow.h"
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 
 /// The switch of one connector under the real pointer and keyboard.
 class SwitchInputTest : public ::testing::Test {
@@ -29,7 +29,7 @@ class SwitchInputTest : public ::testing::Test {
   int announcements_ = 0;
   WorkspaceStore store_;
   ConnectorsView view_{store_};
-  UiStage stage_{view_, 852};
+  TestWindow stage_{view_, 852};
   Gtk::Switch& switch_ = *all<Gtk::Switch>(view_)[stripe];
 };
 

@@ -1,13 +1,13 @@
-#include "FirstThatFits.h"
-#include "UiStage.h"
-#include "stacks.h"
+#include "layout/FirstThatFits.h"
+#include "layout/stacks.h"
+#include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using Gtk::Orientation;
 
 Gtk::Widget* block(int width, int height) {
@@ -21,7 +21,7 @@ TEST(FirstThatFits, SwitchesExactlyWhereTheNaturalWidthStopsFitting) {
   auto* right = block(340, 70);
   auto* area = Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
       {Orientation::HORIZONTAL, 18, {left, right}}, {Orientation::VERTICAL, 18, {left, right}}});
-  UiStage stage(*area, 778);
+  TestWindow stage(*area, 778);
   EXPECT_EQ(boundsIn(*area, *right).get_x(), 438);
   EXPECT_EQ(area->get_height(), 70);
   stage.resize(777);
@@ -35,7 +35,7 @@ TEST(FirstThatFits, HidesWhatTheShownFormLeavesOut) {
   auto* small = block(74, 74);
   auto* hero = Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
       {Orientation::HORIZONTAL, 28, {text, large}}, {Orientation::HORIZONTAL, 8, {text, small}}});
-  UiStage stage(*hero, 300);
+  TestWindow stage(*hero, 300);
   EXPECT_TRUE(large->get_mapped());
   EXPECT_FALSE(small->get_mapped());
   stage.resize(200);
@@ -48,7 +48,7 @@ TEST(FirstThatFits, ExpandingMembersShareWhatIsLeft) {
   auto* right = stretched(block(100, 10));
   auto* area = Gtk::make_managed<FirstThatFits>(
       std::vector<FirstThatFits::Form>{{Orientation::HORIZONTAL, 20, {left, right}}});
-  UiStage stage(*area, 320);
+  TestWindow stage(*area, 320);
   EXPECT_EQ(left->get_width(), 150);
   EXPECT_EQ(boundsIn(*area, *right).get_x(), 170);
 }
@@ -59,7 +59,7 @@ TEST(FirstThatFits, AFormChangeKeepsTheFocus) {
   auto* other = block(300, 10);
   auto* area = Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
       {Orientation::HORIZONTAL, 0, {entry, other}}, {Orientation::VERTICAL, 0, {entry, other}}});
-  UiStage stage(*area, 700);
+  TestWindow stage(*area, 700);
   entry->grab_focus();
   stage.resize(400);
   ASSERT_NE(stage.window().get_focus(), nullptr);

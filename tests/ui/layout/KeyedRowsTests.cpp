@@ -1,12 +1,12 @@
-#include "KeyedRows.h"
-#include "UiStage.h"
+#include "layout/KeyedRows.h"
+#include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 
 struct Record {
@@ -70,7 +70,7 @@ TEST_F(KeyedRowsTest, OfTwoRecordsWithOneIdTheFirstCounts) {
 
 TEST_F(KeyedRowsTest, TheFocusSurvivesInsertingRemovingAndMoving) {
   show({{"a", "A"}, {"b", "B"}, {"c", "C"}});
-  UiStage stage(container, 200);
+  TestWindow stage(container, 200);
   rows.row("b")->grab_focus();
   show({{"n", "N"}, {"c", "C"}, {"b", "B"}});
   EXPECT_EQ(stage.window().get_focus(), rows.row("b"));

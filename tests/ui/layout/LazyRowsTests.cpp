@@ -1,13 +1,13 @@
-#include "LazyRows.h"
-#include "UiStage.h"
-#include "stacks.h"
+#include "layout/LazyRows.h"
+#include "layout/stacks.h"
+#include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
 
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 
 struct Record {
@@ -49,7 +49,7 @@ struct LazyRowsTest : ::testing::Test {
     head->set_size_request(-1, 100);
     scroller.set_child(*padded(28, vstack(22, {head, column})));
     column->refresh();
-    stage = std::make_unique<UiStage>(scroller, 500, 400);
+    stage = std::make_unique<TestWindow>(scroller, 500, 400);
     stage->window().unset_focus();
     draw();
   }
@@ -94,7 +94,7 @@ struct LazyRowsTest : ::testing::Test {
   std::deque<Record> list;
   Gtk::ScrolledWindow scroller;
   LazyRows<Record, Row>* column = nullptr;
-  std::unique_ptr<UiStage> stage;
+  std::unique_ptr<TestWindow> stage;
 };
 
 TEST_F(LazyRowsTest, TheRowsInSightAreThereInTheFirstFrame) {
@@ -103,7 +103,7 @@ TEST_F(LazyRowsTest, TheRowsInSightAreThereInTheFirstFrame) {
       list, 10, [](const Record& record) { return Gtk::make_managed<Row>(record); });
   scroller.set_child(*column);
   column->refresh();
-  stage = std::make_unique<UiStage>(scroller, 500, 400);
+  stage = std::make_unique<TestWindow>(scroller, 500, 400);
   expectSightIsFilled();
   EXPECT_LT(rows().size(), 40U);
 }
@@ -233,7 +233,7 @@ TEST(LazyRows, OutsideAViewportAllRowsExist) {
   std::deque<Record> list = records(60);
   LazyRows<Record, Row> column(list, 10, [](const Record& record) { return Gtk::make_managed<Row>(record); });
   column.refresh();
-  UiStage stage(column, 300);
+  TestWindow stage(column, 300);
   drawFrame(column);
   EXPECT_EQ(all<Row>(column).size(), 60U);
 }

@@ -1,4 +1,4 @@
-#include "RowHeights.h"
+#include "layout/RowHeights.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
-#include "QuorvelBrand.h"
-#include "SettingsView.h"
-#include "SettingsWindow.h"
-#include "UiStage.h"
+#include "brand/QuorvelBrand.h"
+#include "settings/SettingsView.h"
+#include "support/TestWindow.h"
 
 #include <filesystem>
 #include <fstream>
@@ -9,7 +8,7 @@
 namespace quorvel {
 namespace {
 
-using namespace quorvel::testing;
+using namespace quorvel::tests;
 using ::testing::ElementsAre;
 namespace fs = std::filesystem;
 
@@ -20,7 +19,7 @@ struct SettingsViewTest : ::testing::Test {
     file = folder / "preferences.ini";
     preferences = std::make_unique<Preferences>(file);
     view = Gtk::make_managed<SettingsView>(*preferences);
-    stage = std::make_unique<UiStage>(*view, 520);
+    stage = std::make_unique<TestWindow>(*view, 520);
   }
   ~SettingsViewTest() override {
     stage.reset();
@@ -52,7 +51,7 @@ struct SettingsViewTest : ::testing::Test {
   fs::path folder, file;
   std::unique_ptr<Preferences> preferences;
   SettingsView* view;
-  std::unique_ptr<UiStage> stage;
+  std::unique_ptr<TestWindow> stage;
 };
 
 const std::vector<std::pair<const char*, PreferenceKey>> toggles{
@@ -114,7 +113,7 @@ TEST_F(SettingsViewTest, ASwitchFollowsAChangeMadeByAnotherProgram) {
 
 TEST_F(SettingsViewTest, TwoViewsOfTheSamePreferencesAgree) {
   auto* other = Gtk::make_managed<SettingsView>(*preferences);
-  UiStage otherStage(*other, 520);
+  TestWindow otherStage(*other, 520);
   flip("Ad spend changes");
   EXPECT_TRUE(comesToRest(*all<Gtk::Switch>(*other)[2], false));
 }
@@ -173,17 +172,6 @@ TEST_F(SettingsViewTest, TheFormIs520PointsWideWith24PointsOfPadding) {
   }
   const auto last = boundsIn(*view, row("Customer-facing messages"));
   EXPECT_EQ(view->get_height() - last.get_y() - last.get_height(), 24);
-}
-
-TEST_F(SettingsViewTest, TheWindowIsAsLargeAsTheFormAndCannotBeResized) {
-  SettingsWindow window(*preferences);
-  window.present();
-  ASSERT_TRUE(waitUntil([&] { return window.get_mapped(); }));
-  drawFrame(window);
-  EXPECT_EQ(window.get_title(), "Settings");
-  EXPECT_FALSE(window.get_resizable());
-  EXPECT_EQ(window.get_child()->get_width(), 520);
-  EXPECT_EQ(window.get_child()->get_height(), view->get_height());
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-#include "QuorvelRoute.h"
+#include "client/QuorvelRoute.h"
 
-#include "ServiceOrigin.h"
+#include "client/ServiceOrigin.h"
 
 #include <gmock/gmock.h>
 #include <vector>
@@ -8,8 +8,8 @@
 namespace quorvel {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 constexpr std::array everyRoute{QuorvelRoute::agent, QuorvelRoute::connectors, QuorvelRoute::browserWorkspace,
                                 QuorvelRoute::voice, QuorvelRoute::pricing,    QuorvelRoute::support};
@@ -81,7 +81,7 @@ TEST(QuorvelRoute, AContrivedAddressCanMatchSeveralRoutes) {
 
 TEST(QuorvelRouteDeathTest, AnAddressThatDoesNotParseEndsTheProgramNamingItsLine) {
   EXPECT_EXIT(
-      parsedAddress("https://[", 41), testing::KilledBySignal(SIGABRT),
+      parsedAddress("https://[", 41), ::testing::KilledBySignal(SIGABRT),
       "DesktopBrowserModel:41: Fatal error: Unexpectedly found nil while unwrapping an Optional value");
 }
 

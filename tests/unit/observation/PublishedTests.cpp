@@ -1,5 +1,5 @@
-#include "Published.h"
-#include "observe.h"
+#include "observation/Published.h"
+#include "observation/observe.h"
 
 #include <functional>
 #include <gmock/gmock.h>
@@ -8,7 +8,7 @@
 namespace quorvel {
 namespace {
 
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
 struct Model : ObservableObject {
   Published<int> count{*this, 1};

@@ -1,4 +1,4 @@
-#include "Preferences.h"
+#include "preferences/Preferences.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -18,7 +18,7 @@ namespace quorvel {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 using Key = PreferenceKey;
 
 /// Runs the main loop until the condition holds; false if it does not within ten seconds.
@@ -95,7 +95,7 @@ class Peer {
   int output_ = -1;
 };
 
-struct PreferencesTest : testing::Test {
+struct PreferencesTest : ::testing::Test {
   PreferencesTest() {
     std::string pattern = (fs::temp_directory_path() / "quorvel-preferences-XXXXXX").string();
     root = g_mkdtemp(pattern.data());
@@ -218,7 +218,7 @@ TEST_F(PreferencesTest, AFlipAfterTheFolderWasDeletedMakesItAgain) {
   preferences.set(Key::showInspector, false);
   fs::remove_all(folder);
   preferences.set(Key::dailyBriefEnabled, false);
-  EXPECT_THAT(written(), testing::HasSubstr("Quorvel.dailyBriefEnabled=false\n"));
+  EXPECT_THAT(written(), ::testing::HasSubstr("Quorvel.dailyBriefEnabled=false\n"));
 }
 
 TEST_F(PreferencesTest, TwoWindowsWithTheSameFileFollowEachOther) {

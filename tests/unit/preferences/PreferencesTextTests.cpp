@@ -1,12 +1,12 @@
-#include "PreferenceKey.h"
-#include "PreferencesText.h"
+#include "preferences/PreferenceKey.h"
+#include "preferences/PreferencesText.h"
 
 #include <gmock/gmock.h>
 
 namespace quorvel {
 namespace {
 
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
 constexpr std::string_view key = "Quorvel.showInspector";
 

@@ -1,7 +1,7 @@
-#include "AgentLoad.h"
-#include "ApprovalState.h"
-#include "RequestStatus.h"
-#include "WorkspaceSection.h"
+#include "workspace/AgentLoad.h"
+#include "workspace/ApprovalState.h"
+#include "workspace/RequestStatus.h"
+#include "workspace/WorkspaceSection.h"
 
 #include <gmock/gmock.h>
 #include <string>
@@ -10,7 +10,7 @@
 namespace quorvel {
 namespace {
 
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
 template <class Enumeration, class Describe>
 auto table(Describe describe) {
@@ -33,8 +33,8 @@ std::string joined(std::initializer_list<std::string_view> columns) {
 }
 
 template <class Enumeration>
-class EveryEnumeration : public testing::Test {};
-using Enumerations = testing::Types<WorkspaceSection, AccentTone, AgentLoad, RequestStatus, ApprovalState>;
+class EveryEnumeration : public ::testing::Test {};
+using Enumerations = ::testing::Types<WorkspaceSection, AccentTone, AgentLoad, RequestStatus, ApprovalState>;
 TYPED_TEST_SUITE(EveryEnumeration, Enumerations);
 
 TYPED_TEST(EveryEnumeration, IsBuiltBackFromEachOfItsRawValues) {

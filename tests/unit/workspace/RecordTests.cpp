@@ -1,4 +1,4 @@
-#include "SampleData.h"
+#include "workspace/SampleData.h"
 
 #include <gmock/gmock.h>
 #include <unordered_set>

@@ -1,4 +1,4 @@
-#include "SampleData.h"
+#include "workspace/SampleData.h"
 
 #include <gmock/gmock.h>
 #include <sstream>
@@ -7,7 +7,7 @@
 namespace quorvel {
 namespace {
 
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
 std::string shown(const std::string& text) {
   return text;

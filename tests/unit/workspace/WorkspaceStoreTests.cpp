@@ -1,4 +1,4 @@
-#include "WorkspaceStore.h"
+#include "workspace/WorkspaceStore.h"
 
 #include <functional>
 #include <gmock/gmock.h>
@@ -7,11 +7,11 @@
 namespace quorvel {
 namespace {
 
-using testing::ElementsAre;
-using testing::MatchesRegex;
-using testing::StartsWith;
+using ::testing::ElementsAre;
+using ::testing::MatchesRegex;
+using ::testing::StartsWith;
 
-struct WorkspaceStoreTest : testing::Test {
+struct WorkspaceStoreTest : ::testing::Test {
   WorkspaceStore store;
   int announcements = 0;
 

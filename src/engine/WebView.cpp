@@ -1,0 +1,166 @@
+#include "engine/WebView.h"
+
+#include "engine/LoadWatchdog.h"
+#include "engine/NavigationPolicy.h"
+#include "engine/WebSession.h"
+#include "engine/makeView.h"
+
+#include <utility>
+
+namespace quorvel {
+namespace {
+
+std::string textOrNothing(const char* text) {
+  return text ? text : "";
+}
+
+} // namespace
+
+/// The engine's objects and the answers to their signals.
+class WebView::Engine {
+ public:
+  Engine(const WebFolders& folders, TimerFunction startTimer, Owner owner)
+      : owner_(std::move(owner)), session_(folders), view_(makeView(session_.get())),
+        watchdog_(view(), std::move(startTimer)) {
+    watchState();
+    watchNavigation();
+  }
+  ~Engine() {
+    g_signal_handlers_disconnect_by_data(view(), this);
+    g_signal_handlers_disconnect_by_data(webkit_web_view_get_back_forward_list(view()), this);
+  }
+  Engine(const Engine&) = delete;
+  Engine& operator=(const Engine&) = delete;
+
+  WebKitWebView* view() const { return view_.get(); }
+
+  void load(const std::string& address) {
+    requested_ = address;
+    webkit_web_view_load_uri(view(), address.c_str());
+  }
+
+ private:
+  void watchState();
+  void watchNavigation();
+  bool decide(WebKitPolicyDecision* decision, WebKitPolicyDecisionType type);
+  void openWindow(WebKitNavigationAction* action);
+  NavigationChoice settle(const NavigationRequest& asked);
+  NavigationRequest request(WebKitNavigationAction* action, bool wantsWindow) const;
+
+  Owner owner_;
+  WebSession session_;
+  GObjectPointer<WebKitWebView> view_;
+  std::string requested_; // the address of the last `load()`
+  LoadWatchdog watchdog_;
+};
+
+void WebView::Engine::watchState() {
+  const auto onState = +[](Engine* self) { self->owner_.onChange(); };
+  // Moves within a document (fragments, pushState) and late titles come with no load event of their own.
+  for (const char* signal : {"load-changed", "notify::is-loading", "notify::uri", "notify::title"})
+    g_signal_connect_swapped(view(), signal, G_CALLBACK(onState), this);
+  g_signal_connect_swapped(webkit_web_view_get_back_forward_list(view()), "changed", G_CALLBACK(onState),
+                           this);
+  const auto onFailure = +[](Engine* self) -> gboolean {
+    self->owner_.onChange();
+    return FALSE; // the engine shows its own page
+  };
+  g_signal_connect_swapped(view(), "load-failed", G_CALLBACK(onFailure), this);
+}
+
+void WebView::Engine::watchNavigation() {
+  const auto onDecision = +[](WebKitWebView*, WebKitPolicyDecision* decision, WebKitPolicyDecisionType type,
+                              Engine* self) -> gboolean { return self->decide(decision, type); };
+  g_signal_connect(view(), "decide-policy", G_CALLBACK(onDecision), this);
+  const auto onWindow = +[](WebKitWebView*, WebKitNavigationAction* action, Engine* self) -> GtkWidget* {
+    self->openWindow(action);
+    return nullptr;
+  };
+  g_signal_connect(view(), "create", G_CALLBACK(onWindow), this);
+}
+
+bool WebView::Engine::decide(WebKitPolicyDecision* decision, WebKitPolicyDecisionType type) {
+  if (type == WEBKIT_POLICY_DECISION_TYPE_RESPONSE)
+    return false;
+  auto* action =
+      webkit_navigation_policy_decision_get_navigation_action(WEBKIT_NAVIGATION_POLICY_DECISION(decision));
+  const auto asked = request(action, type == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION);
+  if (settle(asked) == NavigationChoice::view)
+    webkit_policy_decision_use(decision);
+  else
+    webkit_policy_decision_ignore(decision);
+  return true;
+}
+
+void WebView::Engine::openWindow(WebKitNavigationAction* action) {
+  const auto asked = request(action, true);
+  if (settle(asked) == NavigationChoice::view)
+    owner_.openWindow(asked.address);
+}
+
+NavigationChoice WebView::Engine::settle(const NavigationRequest& asked) {
+  const auto choice = choose(asked);
+  if (choice == NavigationChoice::system)
+    owner_.openInSystem(asked.address);
+  return choice;
+}
+
+NavigationRequest WebView::Engine::request(WebKitNavigationAction* action, bool wantsWindow) const {
+  const auto address =
+      textOrNothing(webkit_uri_request_get_uri(webkit_navigation_action_get_request(action)));
+  // What a page does by itself has a type of its own or cannot name a file.
+  const bool isDropped =
+      webkit_navigation_action_get_navigation_type(action) == WEBKIT_NAVIGATION_TYPE_OTHER &&
+      address != requested_;
+  return {address, wantsWindow, isDropped};
+}
+
+WebView::WebView(const WebFolders& folders, TimerFunction startTimer, Owner owner)
+    : engine_(std::make_unique<Engine>(folders, std::move(startTimer), std::move(owner))) {}
+
+WebView::~WebView() = default;
+
+void WebView::load(const std::string& address) {
+  engine_->load(address);
+}
+
+void WebView::reload() {
+  webkit_web_view_reload(engine_->view());
+}
+
+void WebView::goBack() {
+  webkit_web_view_go_back(engine_->view());
+}
+
+void WebView::goForward() {
+  webkit_web_view_go_forward(engine_->view());
+}
+
+bool WebView::canGoBack() const {
+  return webkit_web_view_can_go_back(engine_->view());
+}
+
+bool WebView::canGoForward() const {
+  return webkit_web_view_can_go_forward(engine_->view());
+}
+
+bool WebView::isLoading() const {
+  return webkit_web_view_is_loading(engine_->view());
+}
+
+std::string WebView::address() const {
+  const auto address = textOrNothing(webkit_web_view_get_uri(engine_->view()));
+  // While a redirect to a mail address is being refused, the view names it as its own.
+  return choose({address}) == NavigationChoice::system ? "" : address;
+}
+
+std::optional<std::string> WebView::title() const {
+  const char* title = webkit_web_view_get_title(engine_->view());
+  return title ? std::optional<std::string>(title) : std::nullopt;
+}
+
+Gtk::Widget& WebView::widget() const {
+  return *Glib::wrap(GTK_WIDGET(engine_->view()));
+}
+
+} // namespace quorvel

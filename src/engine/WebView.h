@@ -1,0 +1,58 @@
+#pragma once
+
+#include "engine/StallTimer.h"
+#include "engine/WebFolders.h"
+
+#include <functional>
+#include <gtkmm/widget.h>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace quorvel {
+
+/// The web engine as the rest of the program knows it: one view on web pages and the session behind it.
+///
+/// Made after the toolkit has started; everything happens on the main thread. What a page may open, and
+/// where, is decided here by `choose()`. A load that fails is silent, and one that makes no progress for
+/// `StallTimer::limit` is ended.
+class WebView {
+ public:
+  /// Whom the view tells and asks. The functions are called inside the engine's own handlers, where its flags
+  /// may still be the old ones. None is called once the view is gone.
+  struct Owner {
+    /// Address, title, history or loading state may have changed.
+    std::function<void()> onChange = [] {};
+    /// Something on screen leads out of the view: a mail or telephone link.
+    std::function<void(const std::string& address)> openInSystem = [](const std::string&) {};
+    /// The page asks for a window. There is none but this one's.
+    std::function<void(const std::string& address)> openWindow = [](const std::string&) {};
+  };
+
+  WebView(const WebFolders& folders, TimerFunction startTimer, Owner owner);
+  ~WebView();
+  WebView(const WebView&) = delete;
+  WebView& operator=(const WebView&) = delete;
+
+  void load(const std::string& address);
+  void reload();
+  void goBack();
+  void goForward();
+
+  bool canGoBack() const;
+  bool canGoForward() const;
+  bool isLoading() const;
+  /// The address on screen; empty where there is none, as after the page's process has died.
+  std::string address() const;
+  /// The page's title, which may be empty; nothing where the page names none.
+  std::optional<std::string> title() const;
+
+  /// The view, for a host to place; it stays this object's.
+  Gtk::Widget& widget() const;
+
+ private:
+  class Engine;
+  std::unique_ptr<Engine> engine_;
+};
+
+} // namespace quorvel

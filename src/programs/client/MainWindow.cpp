@@ -1,0 +1,25 @@
+#include "programs/client/MainWindow.h"
+
+#include "client/ContentView.h"
+#include "programs/client/CommandMenu.h"
+#include "programs/client/PrimaryMenu.h"
+
+#include <gtkmm/headerbar.h>
+
+namespace quorvel {
+
+MainWindow::MainWindow(DesktopBrowserModel& browser, Gtk::Application& application,
+                       const Commands& commands) {
+  set_title("Quorvel");
+  set_icon_name("com.quorvel.Desktop");
+  auto* header = Gtk::make_managed<Gtk::HeaderBar>();
+  header->add_css_class("slim");
+  header->pack_start(*Gtk::make_managed<CommandMenu>(commands.client, browser, application));
+  header->pack_end(*Gtk::make_managed<PrimaryMenu>(commands.program));
+  set_titlebar(*header);
+  set_child(*Gtk::make_managed<ContentView>(browser));
+  // A long address would otherwise make the window as wide as it would like to be.
+  set_default_size(ContentView::minimumWidth, -1);
+}
+
+} // namespace quorvel

@@ -1,0 +1,14 @@
+#include "programs/client/PrimaryMenu.h"
+
+#include "brand/buttons.h"
+
+namespace quorvel {
+
+PrimaryMenu::PrimaryMenu(const CommandGroup& commands) {
+  set_icon_name("open-menu-symbolic");
+  set_menu_model(commands.menu());
+  set_tooltip_text("Main menu");
+  setAccessibleName(*this, "Main menu");
+}
+
+} // namespace quorvel

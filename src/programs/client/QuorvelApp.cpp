@@ -1,0 +1,77 @@
+#include "programs/client/QuorvelApp.h"
+
+#include "brand/StyleSheet.h"
+#include "client/DesktopBrowserModel.h"
+#include "preferences/Preferences.h"
+#include "programs/client/MainWindow.h"
+#include "programs/client/SecondaryWindow.h"
+#include "programs/client/ShortcutsView.h"
+#include "settings/SettingsView.h"
+
+#include <gtkmm/aboutdialog.h>
+
+namespace quorvel {
+namespace {
+
+std::unique_ptr<Gtk::Window> makeAbout() {
+  auto about = std::make_unique<Gtk::AboutDialog>();
+  about->set_program_name("Quorvel");
+  about->set_version(QUORVEL_VERSION);
+  about->set_comments("Desktop agent client");
+  about->set_logo_icon_name(QuorvelApp::identifier);
+  return about;
+}
+
+} // namespace
+
+QuorvelApp::QuorvelApp() : Gtk::Application(identifier) {}
+
+QuorvelApp::~QuorvelApp() = default;
+
+void QuorvelApp::on_startup() {
+  // First of all: the page is fetched while windows and style sheets are still being built.
+  browser_ = std::make_unique<DesktopBrowserModel>();
+  Gtk::Application::on_startup();
+  makeCommands();
+}
+
+void QuorvelApp::on_activate() {
+  if (!window_) {
+    installStyle();
+    window_ = std::make_unique<MainWindow>(*browser_, *this, *commands_);
+    add_window(*window_);
+    window_->signal_hide().connect([this] { quit(); });
+  }
+  appDelegate_.applicationDidFinishLaunching();
+}
+
+void QuorvelApp::makeCommands() {
+  const auto makeShortcuts = [this] {
+    return std::make_unique<SecondaryWindow>("Keyboard Shortcuts",
+                                             *Gtk::make_managed<ShortcutsView>(*commands_));
+  };
+  commands_.emplace(
+      *browser_,
+      Commands::Program{.showSettings = [this] { showBeside(settings_, [this] { return makeSettings(); }); },
+                        .showShortcuts = [this, makeShortcuts] { showBeside(shortcuts_, makeShortcuts); },
+                        .showAbout = [this] { showBeside(about_, makeAbout); },
+                        .quit = [this] { quit(); }});
+  commands_->addTo(*this);
+}
+
+std::unique_ptr<Gtk::Window> QuorvelApp::makeSettings() {
+  preferences_ = std::make_unique<Preferences>();
+  return std::make_unique<SecondaryWindow>("Settings", *Gtk::make_managed<SettingsView>(*preferences_));
+}
+
+void QuorvelApp::showBeside(std::unique_ptr<Gtk::Window>& window,
+                            const std::function<std::unique_ptr<Gtk::Window>()>& make) {
+  if (!window) {
+    window = make();
+    window->set_transient_for(*window_);
+    window->set_hide_on_close(true);
+  }
+  window->present();
+}
+
+} // namespace quorvel

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace quorvel {
+
+/// How a program is known: to the desktop by its application id, to people by its name.
+struct ProgramName {
+  const char* identifier;
+  const char* name;
+};
+
+/// What every program of this project does first: tells the toolkit about the machine's graphics and the
+/// desktop whose windows these are, and starts the toolkit. False, with one sentence on the error output,
+/// where there is no display to show a window on. Call it once, before there is a second thread.
+bool startToolkit(const ProgramName& program);
+
+} // namespace quorvel

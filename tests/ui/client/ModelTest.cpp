@@ -1,0 +1,75 @@
+#include "ui/client/ModelTest.h"
+
+namespace quorvel {
+
+ModelTest::ModelTest() {
+  server.page("/agent.html", "<title>Agent</title><h1 id=connectorsCenter>Agent workspace</h1>");
+  server.page("/pricing.html", "<title>Pricing</title><h1>Plans</h1>");
+  start();
+}
+
+ModelTest::~ModelTest() {
+  model.reset();
+  remove_all(folder);
+}
+
+void ModelTest::start(const std::string& name) {
+  model.reset();
+  model = std::make_unique<DesktopBrowserModel>(DesktopBrowserModel::Surroundings{
+      .folders = {folder / name / "data", folder / name / "cache"},
+      .openInSystem = [this](const std::string& address) { opened.push_back(address); },
+      .startTimer = timer.function()});
+  const auto onLoad = +[](WebKitWebView* view, WebKitLoadEvent event, std::string* document) {
+    if (event == WEBKIT_LOAD_COMMITTED)
+      *document = webkit_web_view_get_uri(view);
+  };
+  g_signal_connect(webView(), "load-changed", G_CALLBACK(onLoad), &document_);
+}
+
+void ModelTest::show(const std::string& path) {
+  model->load(server.address(path));
+  waitForAddress(path);
+  waitForRest();
+}
+
+void ModelTest::waitForAddress(const std::string& path) {
+  const auto address = server.address(path);
+  const auto isThere = [&] {
+    return *model->currentURLString == address && !webkit_web_view_is_loading(webView()) &&
+           document_.starts_with(address.substr(0, address.find_first_of("?#")));
+  };
+  ASSERT_TRUE(tests::waitUntil(isThere)) << *model->currentURLString << " instead of " << address;
+}
+
+void ModelTest::waitForRest() {
+  const auto rests = [&] { return !webkit_web_view_is_loading(webView()) && !model->isLoading; };
+  ASSERT_TRUE(tests::waitUntil(rests));
+  settle();
+  ASSERT_TRUE(tests::waitUntil(rests));
+}
+
+void ModelTest::runScript(const std::string& script) {
+  bool isDone = false;
+  const auto onDone = +[](GObject* view, GAsyncResult* result, gpointer done) {
+    g_autoptr(GError) error = nullptr;
+    g_autoptr(JSCValue) value =
+        webkit_web_view_evaluate_javascript_finish(WEBKIT_WEB_VIEW(view), result, &error);
+    EXPECT_EQ(error, nullptr) << (error ? error->message : "");
+    *static_cast<bool*>(done) = true;
+  };
+  webkit_web_view_evaluate_javascript(webView(), script.c_str(), -1, nullptr, nullptr, nullptr, onDone,
+                                      &isDone);
+  ASSERT_TRUE(tests::waitUntil([&] { return isDone; }));
+}
+
+void ModelTest::settle() {
+  // The page's process answers in order: what it was doing before is done when it has answered twice.
+  if (webkit_web_view_get_uri(webView())) {
+    runScript("0");
+    runScript("0");
+  }
+  while (Glib::MainContext::get_default()->iteration(false))
+    ;
+}
+
+} // namespace quorvel

@@ -1,0 +1,148 @@
+#include "programs/client/MainWindow.h"
+
+#include "client/ContentView.h"
+#include "programs/client/CommandMenu.h"
+#include "programs/client/PrimaryMenu.h"
+#include "ui/client/ModelTest.h"
+
+namespace quorvel {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::SizeIs;
+
+/// The program's window with its menus, on a real model.
+class MainWindowTest : public ModelTest {
+ protected:
+  void SetUp() override {
+    show("/agent.html");
+    commands.emplace(*model, Commands::Program{});
+    application->register_application();
+    commands->addTo(*application);
+    window = std::make_unique<MainWindow>(*model, *application, *commands);
+    application->add_window(*window);
+    window->present();
+    ASSERT_TRUE(tests::waitUntil([&] { return window->get_mapped() && window->get_width() > 0; }));
+  }
+  void TearDown() override { window->close(); }
+
+  CommandMenu& menuBar() { return *tests::all<CommandMenu>(*window).front(); }
+  /// Whether the entry with this text can be chosen.
+  bool isEnabled(const Glib::ustring& title) {
+    for (auto* label : tests::all<Gtk::Label>(menuBar()))
+      if (label->get_text() == title)
+        return label->is_sensitive();
+    ADD_FAILURE() << "no entry " << title;
+    return false;
+  }
+  std::string key(const std::string& action) {
+    const std::vector<Glib::ustring> keys = application->get_accels_for_action(action);
+    EXPECT_LE(keys.size(), 1u) << action;
+    return keys.empty() ? "" : std::string(keys.front());
+  }
+
+  Glib::RefPtr<Gtk::Application> application = Gtk::Application::create("com.quorvel.Test");
+  std::optional<Commands> commands;
+  std::unique_ptr<MainWindow> window;
+};
+
+/// The texts of a menu as they are read, a dash for each divider.
+std::vector<std::string> lines(const Glib::RefPtr<const Gio::MenuModel>& menu) {
+  std::vector<std::string> result;
+  for (int i = 0; i < menu->get_n_items(); ++i) {
+    char* label = nullptr;
+    if (g_menu_model_get_item_attribute(const_cast<GMenuModel*>(menu->gobj()), i, G_MENU_ATTRIBUTE_LABEL, "s",
+                                        &label)) {
+      result.emplace_back(label);
+      std::erase(result.back(), '_');
+      g_free(label);
+    }
+    if (const auto section = menu->get_item_link(i, Gio::MenuModel::Link::SECTION)) {
+      if (i > 0)
+        result.push_back("-");
+      std::ranges::copy(lines(section), std::back_inserter(result));
+    }
+  }
+  return result;
+}
+
+TEST_F(MainWindowTest, TheMenuBarHasTheMenuQuorvelWithItsSevenEntriesAndNoOther) {
+  const auto bar = menuBar().get_menu_model();
+  EXPECT_THAT(lines(bar), ElementsAre("Quorvel"));
+  EXPECT_THAT(lines(bar->get_item_link(0, Gio::MenuModel::Link::SUBMENU)),
+              ElementsAre("Open Agent Workspace", "Open Connectors", "-", "Back", "Forward", "Reload",
+                          "Open in Browser"));
+}
+
+TEST_F(MainWindowTest, WhatConcernsTheProgramIsInThePrimaryMenu) {
+  auto* button = tests::all<PrimaryMenu>(*window).front();
+  EXPECT_THAT(lines(button->get_menu_model()),
+              ElementsAre("Settings…", "Keyboard Shortcuts", "About", "Quit"));
+}
+
+TEST_F(MainWindowTest, TheListedKeysAreBoundAndNothingElse) {
+  EXPECT_EQ(key("app.open-agent"), "<Control>n");
+  EXPECT_EQ(key("app.open-connectors"), "") << "only the menu leads there";
+  EXPECT_EQ(key("app.back"), "<Control>bracketleft");
+  EXPECT_EQ(key("app.forward"), "<Control>bracketright");
+  EXPECT_EQ(key("app.reload"), "<Control>r");
+  EXPECT_EQ(key("app.open-externally"), "<Shift><Control>o");
+  EXPECT_EQ(key("app.settings"), "<Control>comma");
+  EXPECT_EQ(key("app.shortcuts"), "<Control>question");
+  EXPECT_EQ(key("app.quit"), "<Control>q");
+  EXPECT_THAT(application->list_action_descriptions(), SizeIs(8));
+}
+
+TEST_F(MainWindowTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlways) {
+  EXPECT_FALSE(isEnabled("Back"));
+  EXPECT_FALSE(isEnabled("Forward"));
+  show("/agent.html#connectorsCenter");
+  EXPECT_TRUE(tests::waitUntil([&] { return isEnabled("Back"); }));
+  window->activate_action("app.back");
+  EXPECT_TRUE(tests::waitUntil([&] { return isEnabled("Forward") && !isEnabled("Back"); }));
+  for (const char* title : {"Open Agent Workspace", "Open Connectors", "Reload", "Open in Browser"})
+    EXPECT_TRUE(isEnabled(title)) << title;
+}
+
+TEST_F(MainWindowTest, ReloadAndOpenInBrowserStayEnabledWhileAPageLoads) {
+  server.silence("/silent.html");
+  model->load(server.address("/silent.html"));
+  ASSERT_TRUE(tests::waitUntil([&] { return *model->isLoading; }));
+  tests::drawFrame(*window);
+  EXPECT_TRUE(isEnabled("Reload"));
+  EXPECT_TRUE(isEnabled("Open in Browser"));
+}
+
+TEST_F(MainWindowTest, EachCommandDoesItsWork) {
+  window->activate_action("app.open-connectors");
+  EXPECT_EQ(*model->currentURLString, url(QuorvelRoute::connectors));
+  window->activate_action("app.open-agent");
+  EXPECT_EQ(*model->currentURLString, url(QuorvelRoute::agent));
+  show("/pricing.html");
+  window->activate_action("app.reload");
+  EXPECT_TRUE(tests::waitUntil([&] { return server.count("/pricing.html") == 2; }));
+  waitForRest();
+  window->activate_action("app.open-externally");
+  EXPECT_THAT(opened, ElementsAre(server.address("/pricing.html")));
+}
+
+TEST_F(MainWindowTest, WithoutHistoryTheBackCommandDoesNothing) {
+  window->activate_action("app.back");
+  window->activate_action("app.forward");
+  settle();
+  EXPECT_EQ(*model->currentURLString, server.address("/agent.html"));
+  EXPECT_EQ(server.requests().size(), 1u);
+}
+
+TEST_F(MainWindowTest, TheContentKeepsItsLeastSizeBelowTheHeaderBar) {
+  EXPECT_EQ(window->get_title(), "Quorvel");
+  window->set_default_size(300, 200);
+  tests::drawFrame(*window);
+  auto* content = tests::all<ContentView>(*window).front();
+  EXPECT_GE(content->get_width(), 1180);
+  EXPECT_GE(content->get_height(), 760);
+  EXPECT_LE(window->get_titlebar()->get_height(), 40) << "slim";
+}
+
+} // namespace
+} // namespace quorvel

@@ -1,0 +1,210 @@
+#include "programs/console/ConsoleApplication.h"
+#include "programs/console/ConsoleColumns.h"
+
+#include "brand/QuorvelBrand.h"
+#include "console/DetailView.h"
+#include "console/InspectorPanel.h"
+#include "console/SidebarView.h"
+#include "support/TemporaryFolder.h"
+#include "support/TestWindow.h"
+#include "support/TextScale.h"
+
+namespace quorvel {
+namespace {
+
+using namespace quorvel::tests;
+using ::testing::ElementsAre;
+
+class ColumnsTest : public ::testing::Test {
+ protected:
+  template <class Column>
+  Gdk::Rectangle bounds() {
+    return boundsIn(columns_, *all<Column>(columns_).front());
+  }
+  bool showsInspector() { return all<InspectorPanel>(columns_).front()->get_mapped(); }
+
+  TemporaryFolder folder_;
+  WorkspaceStore store_;
+  Preferences preferences_{folder_.path / "preferences.ini"};
+  ConsoleColumns columns_{store_, preferences_};
+  TestWindow stage_{columns_, 1180, 760};
+};
+
+TEST_F(ColumnsTest, TheSmallestSizeIs1180By760) {
+  const auto width = widthRequest(columns_);
+  EXPECT_EQ(width.minimum, 1180);
+  EXPECT_EQ(heightRequest(columns_, 1180).minimum, 760);
+}
+
+TEST_F(ColumnsTest, TheSmallestSizeIsTheSameForEverySection) {
+  for (const auto section : allCases<WorkspaceSection>()) {
+    store_.selectedSection = section;
+    drawFrame(columns_);
+    columns_.set_size_request(-1, -1);
+    EXPECT_EQ(widthRequest(columns_).minimum, 1180) << title(section);
+    EXPECT_EQ(heightRequest(columns_, 1180).minimum, 760) << title(section);
+  }
+}
+
+TEST_F(ColumnsTest, AtTheSmallestWidthTheCentreTakesWhatTheSidebarLeaves) {
+  EXPECT_EQ(bounds<SidebarView>().get_width(), 272);
+  EXPECT_EQ(bounds<SidebarView>().get_height(), 760);
+  EXPECT_EQ(bounds<DetailView>().get_x(), 272);
+  EXPECT_EQ(bounds<DetailView>().get_width(), 1180 - 272);
+  EXPECT_FALSE(showsInspector());
+}
+
+TEST_F(ColumnsTest, OnePointBelow1500TheInspectorIsHidden) {
+  stage_.resize(1499, 760);
+  EXPECT_FALSE(showsInspector());
+  EXPECT_EQ(bounds<DetailView>().get_width(), 1499 - 272);
+}
+
+TEST_F(ColumnsTest, From1500TheInspectorIs320Wide) {
+  stage_.resize(1500, 760);
+  EXPECT_TRUE(showsInspector());
+  EXPECT_EQ(bounds<InspectorPanel>().get_x(), 1500 - 320);
+  EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
+  EXPECT_EQ(bounds<DetailView>().get_width(), 1500 - 272 - 320);
+}
+
+TEST_F(ColumnsTest, WhatAWiderWindowHasMoreGoesToTheCentre) {
+  stage_.resize(1600, 1000);
+  EXPECT_EQ(bounds<SidebarView>().get_width(), 272);
+  EXPECT_EQ(bounds<DetailView>().get_width(), 1600 - 272 - 320);
+  EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
+  EXPECT_EQ(bounds<InspectorPanel>().get_height(), 1000);
+}
+
+TEST_F(ColumnsTest, TheColumnsKeepTheirWidthsInLargeText) {
+  const TextScale scale(1.5);
+  stage_.resize(1600, 1000);
+  EXPECT_EQ(bounds<SidebarView>().get_width(), 272);
+  EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
+  EXPECT_LE(widthRequest(*all<SidebarView>(columns_).front()).minimum, 272);
+  EXPECT_LE(widthRequest(*all<InspectorPanel>(columns_).front()).minimum, 320);
+}
+
+TEST_F(ColumnsTest, TheInspectorFollowsTheStoreWhileItIsHidden) {
+  store_.selectedSection = WorkspaceSection::pricing;
+  drawFrame(columns_);
+  stage_.resize(1500, 760);
+  EXPECT_NE(labelled(*all<InspectorPanel>(columns_).front(), "Subscription fit"), nullptr);
+}
+
+TEST_F(ColumnsTest, TheGradientShowsBehindTheCentreFromCornerToCorner) {
+  store_.selectedSection = WorkspaceSection::pricing;
+  drawFrame(columns_);
+  const auto upper = stage_.pixel(280, 5);
+  const auto lower = stage_.pixel(1175, 755);
+  EXPECT_THAT(lower, IsColor(QuorvelBrand::windowGradient()[2]));
+  EXPECT_THAT(upper, ::testing::Not(IsColor(lower)));
+}
+
+TEST_F(ColumnsTest, AllColumnsFollowOneRequest) {
+  stage_.resize(1600, 1000);
+  click(*buttonNamed(columns_, "+ New chat"));
+  drawFrame(columns_);
+  EXPECT_TRUE(isAccessiblySelected(*buttonNamed(*all<SidebarView>(columns_).front(), "Live Requests")));
+  EXPECT_NE(labelled(*all<DetailView>(columns_).front(), "New workspace request"), nullptr);
+  EXPECT_NE(labelled(*all<InspectorPanel>(columns_).front(), "Request created"), nullptr);
+}
+
+TEST_F(ColumnsTest, TabWalksFromTheSidebarThroughTheScreenAndOut) {
+  buttonNamed(columns_, "+ New chat")->grab_focus();
+  bool wasInCentre = false;
+  auto* centre = all<DetailView>(columns_).front();
+  int steps = 0;
+  while (columns_.child_focus(Gtk::DirectionType::TAB_FORWARD) && ++steps < 200)
+    wasInCentre = wasInCentre || stage_.window().get_focus()->is_ancestor(*centre);
+  EXPECT_TRUE(wasInCentre);
+  EXPECT_LT(steps, 200) << "Tab leaves the columns at last";
+}
+
+/// The program from start to end; it neither asks nor answers others of its kind.
+class ConsoleApplicationTest : public ::testing::Test {
+ protected:
+  /// Runs the program until it ends; does `visit` when its window is up.
+  void run(const std::function<void()>& visit) {
+    application_->signal_startup().connect([&] { Glib::signal_idle().connect_once(visit); });
+    EXPECT_EQ(application_->run(), 0);
+  }
+  /// Looks at the program and has it end then.
+  void visit(const std::function<void()>& look) {
+    run([&] {
+      look();
+      application_->quit();
+    });
+  }
+  Gtk::Window& window() { return *application_->get_windows().front(); }
+
+  Glib::RefPtr<ConsoleApplication> application_ =
+      ConsoleApplication::create(Gio::Application::Flags::NON_UNIQUE);
+};
+
+TEST_F(ConsoleApplicationTest, ShowsOneWindowOfItsName) {
+  visit([&] {
+    ASSERT_EQ(application_->get_windows().size(), 1U);
+    EXPECT_EQ(window().get_title(), "Quorvel Console");
+    EXPECT_NE(dynamic_cast<ConsoleColumns*>(window().get_child()), nullptr);
+  });
+}
+
+TEST_F(ConsoleApplicationTest, ASecondLaunchPresentsTheWindowThatIsThere) {
+  visit([&] {
+    auto* before = &window();
+    application_->activate();
+    ASSERT_EQ(application_->get_windows().size(), 1U);
+    EXPECT_EQ(&window(), before);
+  });
+}
+
+TEST_F(ConsoleApplicationTest, ControlWithOneToEightSelectsTheSectionsAndNoOtherDigitAnything) {
+  visit([&] {
+    for (const auto section : allCases<WorkspaceSection>()) {
+      const std::string keys = std::string("<Control>") + shortcut(section);
+      const auto actions = application_->get_actions_for_accel(keys);
+      ASSERT_EQ(actions.size(), 1U) << keys;
+      window().activate_action(actions.front());
+      EXPECT_EQ(*application_->store().selectedSection, section);
+    }
+    EXPECT_TRUE(application_->get_actions_for_accel("<Control>9").empty());
+    EXPECT_TRUE(application_->get_actions_for_accel("<Control>0").empty());
+  });
+}
+
+TEST_F(ConsoleApplicationTest, TheWindowIsNoSmallerThanItsContentMayBe) {
+  visit([&] {
+    window().set_default_size(600, 400);
+    drawFrame(window());
+    EXPECT_GE(window().get_child()->get_width(), 1180);
+    EXPECT_GE(window().get_child()->get_height(), 760);
+  });
+}
+
+TEST_F(ConsoleApplicationTest, ClosingTheWindowEndsTheProgram) {
+  run([&] { window().close(); });
+}
+
+TEST_F(ConsoleApplicationTest, ControlQEndsTheProgram) {
+  run([&] { window().activate_action(application_->get_actions_for_accel("<Control>q").front()); });
+}
+
+TEST_F(ConsoleApplicationTest, IsDarkWhateverTheDesktopSays) {
+  Gtk::Settings::get_default()->property_gtk_application_prefer_dark_theme() = false;
+  visit([] { EXPECT_TRUE(Gtk::Settings::get_default()->property_gtk_application_prefer_dark_theme()); });
+}
+
+TEST(ConsoleProgram, WithoutADisplaySaysSoInOneSentenceAndFails) {
+  std::string output, errors;
+  int status = 0;
+  Glib::spawn_sync("", std::vector<std::string>{CONSOLE_PROGRAM}, std::vector<std::string>{"PATH=/usr/bin"},
+                   Glib::SpawnFlags::DEFAULT, {}, &output, &errors, &status);
+  EXPECT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 1);
+  EXPECT_EQ(output, "");
+  EXPECT_EQ(errors, "Quorvel Console needs a display to show its window on, and found none.\n");
+}
+
+} // namespace
+} // namespace quorvel

@@ -1,0 +1,54 @@
+#include "engine/NavigationPolicy.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvel {
+namespace {
+
+TEST(NavigationPolicy, MailAndTelephoneLinksGoToTheSystemWhereverTheyAppear) {
+  for (const char* address : {"mailto:help@quorvel.example", "tel:+441632960000"}) {
+    EXPECT_EQ(choose({address}), NavigationChoice::system) << address;
+    EXPECT_EQ(choose({address, true}), NavigationChoice::system) << address << " for a new window";
+    EXPECT_EQ(choose({address, false, true}), NavigationChoice::system) << address << " dropped";
+  }
+}
+
+TEST(NavigationPolicy, TheLetterCaseOfASchemeDoesNotMatter) {
+  EXPECT_EQ(choose({"MAILTO:help@quorvel.example"}), NavigationChoice::system);
+  EXPECT_EQ(choose({"Tel:+441632960000"}), NavigationChoice::system);
+}
+
+TEST(NavigationPolicy, OnlyTheWholeSchemeCounts) {
+  EXPECT_EQ(choose({"mailtoo:x"}), NavigationChoice::view);
+  EXPECT_EQ(choose({"telnet://host.example/"}), NavigationChoice::view);
+  EXPECT_EQ(choose({"https://quorvel.example/mailto:x"}), NavigationChoice::view);
+}
+
+TEST(NavigationPolicy, EverythingElseStaysInTheViewOnAnyHost) {
+  EXPECT_EQ(choose({"https://app.quorvel.example/pricing.html"}), NavigationChoice::view);
+  EXPECT_EQ(choose({"https://elsewhere.example/"}), NavigationChoice::view);
+  EXPECT_EQ(choose({"https://elsewhere.example/", true}), NavigationChoice::view);
+}
+
+TEST(NavigationPolicy, ANavigationWithoutAnAddressIsAllowed) {
+  EXPECT_EQ(choose({""}), NavigationChoice::view);
+  EXPECT_EQ(choose({"about:blank"}), NavigationChoice::view) << "pages fill such frames by script";
+}
+
+TEST(NavigationPolicy, AWindowWithoutAnAddressIsNothingToLoad) {
+  EXPECT_EQ(choose({"", true}), NavigationChoice::nothing);
+  EXPECT_EQ(choose({"about:blank", true}), NavigationChoice::nothing);
+}
+
+TEST(NavigationPolicy, AWindowIsNoWayToRunAScriptOrReadAFile) {
+  EXPECT_EQ(choose({"javascript:alert(1)", true}), NavigationChoice::nothing);
+  EXPECT_EQ(choose({"file:///etc/passwd", true}), NavigationChoice::nothing);
+}
+
+TEST(NavigationPolicy, ADroppedFileDoesNotReplaceThePage) {
+  EXPECT_EQ(choose({"file:///home/user/letter.pdf", false, true}), NavigationChoice::nothing);
+  EXPECT_EQ(choose({"https://elsewhere.example/", false, true}), NavigationChoice::view);
+}
+
+} // namespace
+} // namespace quorvel

@@ -1,0 +1,79 @@
+#include "startup/GraphicsEnvironment.h"
+
+#include <filesystem>
+#include <fstream>
+#include <glib.h>
+#include <gmock/gmock.h>
+
+namespace quorvel {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using Variable = GraphicsEnvironment::Variable;
+
+const Variable glOff{"GDK_DEBUG", "gl-disable"};
+const Variable plainRenderer{"WEBKIT_DISABLE_DMABUF_RENDERER", "1"};
+
+/// A machine's `dev`, `proc` and `sys` in a folder of the test's.
+struct GraphicsEnvironmentTest : ::testing::Test {
+  GraphicsEnvironmentTest() {
+    g_unsetenv("GDK_DEBUG");
+    g_unsetenv("WEBKIT_DISABLE_DMABUF_RENDERER");
+  }
+  ~GraphicsEnvironmentTest() override { fs::remove_all(root); }
+
+  void addFile(const std::string& path) {
+    fs::create_directories((root / path).parent_path());
+    std::ofstream(root / path) << "present";
+  }
+  std::vector<Variable> variables() const { return GraphicsEnvironment(root).variables(); }
+
+  fs::path root = g_dir_make_tmp("quorvel-graphics-XXXXXX", nullptr);
+};
+
+TEST_F(GraphicsEnvironmentTest, AMachineWithoutARenderNodeHasGlSwitchedOff) {
+  EXPECT_THAT(variables(), ElementsAre(glOff));
+}
+
+TEST_F(GraphicsEnvironmentTest, AScreenThatOnlyShowsPicturesIsNoRenderNode) {
+  addFile("dev/dri/card0");
+  EXPECT_THAT(variables(), ElementsAre(glOff));
+}
+
+TEST_F(GraphicsEnvironmentTest, AMachineWithARenderNodeKeepsGl) {
+  addFile("dev/dri/renderD128");
+  EXPECT_THAT(variables(), IsEmpty());
+}
+
+TEST_F(GraphicsEnvironmentTest, NvidiasDriverHasTheAcceleratedPageRendererSwitchedOff) {
+  addFile("dev/dri/renderD128");
+  addFile("proc/driver/nvidia/version");
+  EXPECT_THAT(variables(), ElementsAre(plainRenderer));
+}
+
+TEST_F(GraphicsEnvironmentTest, NvidiasDriverIsAlsoKnownByItsModule) {
+  addFile("dev/dri/renderD129");
+  addFile("sys/module/nvidia/refcnt");
+  EXPECT_THAT(variables(), ElementsAre(plainRenderer));
+}
+
+TEST_F(GraphicsEnvironmentTest, WhatTheMachineCallsForIsSet) {
+  addFile("proc/driver/nvidia/version");
+  GraphicsEnvironment(root).apply();
+  EXPECT_STREQ(g_getenv("GDK_DEBUG"), "gl-disable");
+  EXPECT_STREQ(g_getenv("WEBKIT_DISABLE_DMABUF_RENDERER"), "1");
+}
+
+TEST_F(GraphicsEnvironmentTest, WhatTheUserHasSetIsLeftAlone) {
+  addFile("proc/driver/nvidia/version");
+  g_setenv("GDK_DEBUG", "frames", true);
+  g_setenv("WEBKIT_DISABLE_DMABUF_RENDERER", "", true);
+  GraphicsEnvironment(root).apply();
+  EXPECT_STREQ(g_getenv("GDK_DEBUG"), "frames");
+  EXPECT_STREQ(g_getenv("WEBKIT_DISABLE_DMABUF_RENDERER"), "") << "an empty value is the user's, too";
+}
+
+} // namespace
+} // namespace quorvel
