@@ -118,7 +118,7 @@ void RequestRow::show(const RequestItem& request) {
 
 RequestsView::RequestsView(WorkspaceStore& store)
     : VStack(22), rows_(Gtk::make_managed<LazyRows<RequestItem, RequestRow>>(
-                      *store.requests, 12,
+                      *store.requests, LazyGrid::Form{.spacing = 12},
                       [](const RequestItem& request) { return Gtk::make_managed<RequestRow>(request); })) {
   auto* header =
       Gtk::make_managed<SectionHeader>("Live requests", "Work moving through agents",

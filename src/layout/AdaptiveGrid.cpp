@@ -1,5 +1,7 @@
 #include "layout/AdaptiveGrid.h"
 
+#include "layout/columns.h"
+
 #include <algorithm>
 #include <span>
 
@@ -10,7 +12,7 @@ AdaptiveGrid::AdaptiveGrid(int minimumColumnWidth, int spacing)
 }
 
 int AdaptiveGrid::columnCount(int width) const {
-  return std::max(1, (width + spacing_) / (leastColumnWidth() + spacing_));
+  return Columns{leastColumnWidth(), spacing_}.count(width);
 }
 
 int AdaptiveGrid::leastColumnWidth() const {
@@ -20,13 +22,6 @@ int AdaptiveGrid::leastColumnWidth() const {
   return least;
 }
 
-AdaptiveGrid::Column AdaptiveGrid::column(std::size_t index, std::size_t count, int width) const {
-  const auto start = [&](std::size_t place) {
-    return static_cast<int>(place) * (width + spacing_) / static_cast<int>(count);
-  };
-  return {start(index), start(index + 1) - spacing_ - start(index)};
-}
-
 /// Calls `placeRow(cells, columns, y, height)` for every row and returns the height of all rows together.
 template <class PlaceRow>
 int AdaptiveGrid::forEachRow(int width, PlaceRow&& placeRow) const {
@@ -34,7 +29,7 @@ int AdaptiveGrid::forEachRow(int width, PlaceRow&& placeRow) const {
   const auto perRow = static_cast<std::size_t>(columnCount(width));
   std::vector<Column> columns;
   for (std::size_t i = 0; i < perRow; ++i)
-    columns.push_back(column(i, perRow, width));
+    columns.push_back(columnAt(i, perRow, width, spacing_));
   int y = 0;
   for (std::size_t first = 0; first < cells.size(); first += perRow) {
     const auto row = std::span(cells).subspan(first, std::min(perRow, cells.size() - first));

@@ -28,11 +28,6 @@ class AdaptiveGrid : public Container {
   template <class PlaceRow>
   int forEachRow(int width, PlaceRow&& placeRow) const;
   int leastColumnWidth() const;
-  struct Column {
-    int x, width;
-  };
-  /// Where one of `count` columns is: they share out every point of the width.
-  Column column(std::size_t index, std::size_t count, int width) const;
 
   int minimumColumnWidth_;
   int spacing_;

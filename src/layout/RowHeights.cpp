@@ -21,6 +21,11 @@ void RowHeights::setHeight(std::size_t row, int height) {
     others_[fromEnd(row)] = height;
 }
 
+void RowHeights::forget() {
+  others_.clear();
+  isEstimateMeasured_ = false;
+}
+
 int RowHeights::top(std::size_t row) const {
   int y = static_cast<int>(row) * pitch();
   for (const auto& [distance, height] : others_) {

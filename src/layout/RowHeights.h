@@ -18,6 +18,8 @@ class RowHeights {
   void setCount(std::size_t count);
   std::size_t count() const { return count_; }
   void setHeight(std::size_t row, int height);
+  /// Forgets what was measured, but not how high a row is likely to be.
+  void forget();
 
   /// Where this row begins.
   int top(std::size_t row) const;

@@ -41,10 +41,10 @@ std::deque<Record> records(int count, int height = 50) {
 struct LazyRowsTest : ::testing::Test {
   ~LazyRowsTest() override { stage.reset(); }
 
-  void show(std::deque<Record> all) {
+  void show(std::deque<Record> all, LazyGrid::Form form = {.spacing = 10}) {
     list = std::move(all);
     column = Gtk::make_managed<LazyRows<Record, Row>>(
-        list, 10, [](const Record& record) { return Gtk::make_managed<Row>(record); });
+        list, form, [](const Record& record) { return Gtk::make_managed<Row>(record); });
     auto* head = Gtk::make_managed<Gtk::Box>();
     head->set_size_request(-1, 100);
     scroller.set_child(*padded(28, vstack(22, {head, column})));
@@ -99,8 +99,10 @@ struct LazyRowsTest : ::testing::Test {
 
 TEST_F(LazyRowsTest, TheRowsInSightAreThereInTheFirstFrame) {
   list = records(10'000);
-  column = Gtk::make_managed<LazyRows<Record, Row>>(
-      list, 10, [](const Record& record) { return Gtk::make_managed<Row>(record); });
+  column =
+      Gtk::make_managed<LazyRows<Record, Row>>(list, LazyGrid::Form{.spacing = 10}, [](const Record& record) {
+        return Gtk::make_managed<Row>(record);
+      });
   scroller.set_child(*column);
   column->refresh();
   stage = std::make_unique<TestWindow>(scroller, 500, 400);
@@ -229,9 +231,91 @@ TEST_F(LazyRowsTest, FollowsAnotherWidthAndHeightOfItsWindow) {
   expectSightIsFilled();
 }
 
+/// In a window 500 points wide with margins of 28: three columns of 141 or 142, 10 points apart.
+constexpr LazyGrid::Form threeColumns{.spacing = 10, .minimumColumnWidth = 130};
+
+TEST_F(LazyRowsTest, AGridAsksForTheHeightOfAllItsLinesAndBuildsOnlyThoseNearSight) {
+  show(records(10'000), threeColumns);
+  EXPECT_EQ(column->get_height(), 3'334 * (50 + 10) - 10);
+  EXPECT_LT(rows().size(), 60U);
+  expectSightIsFilled();
+}
+
+TEST_F(LazyRowsTest, AGridSharesItsWidthAmongItsColumns) {
+  show(records(5), threeColumns);
+  EXPECT_EQ(place("0").get_x(), 28);
+  EXPECT_EQ(place("2").get_x() + place("2").get_width(), 500 - 28);
+  EXPECT_EQ(place("3").get_x(), 28) << "the next line";
+  EXPECT_EQ(place("3").get_y(), place("0").get_y() + 60);
+  EXPECT_EQ(place("4").get_width(), place("1").get_width()) << "a spare column stays empty";
+}
+
+TEST_F(LazyRowsTest, ACellOfAGridKeepsItsHeightInTheMiddleOfItsLine) {
+  auto uneven = records(6);
+  uneven[1].height = 90;
+  show(uneven, threeColumns);
+  EXPECT_EQ(place("0").get_height(), 50);
+  EXPECT_EQ(place("0").get_y(), place("1").get_y() + 20);
+  EXPECT_EQ(place("3").get_y(), place("1").get_y() + 100);
+}
+
+TEST_F(LazyRowsTest, TheLinesOfAGridComeAndGoAsItIsScrolled) {
+  show(records(10'000), threeColumns);
+  for (const double value : {300.0, 333.0, 5'000.0, 150'000.0, 149'900.0, 0.0}) {
+    scrollTo(value);
+    expectSightIsFilled();
+    EXPECT_LT(rows().size(), 60U) << value;
+  }
+  scrollToEnd();
+  EXPECT_EQ(place("9999").get_y() + place("9999").get_height(), 400 - 28);
+}
+
+TEST_F(LazyRowsTest, OneMoreInFrontMovesEveryCellOfAGridOn) {
+  show(records(10'000), threeColumns);
+  auto* first = row("0");
+  const auto before = place("0");
+  list.push_front({"new"});
+  refresh();
+  EXPECT_EQ(row("0"), first);
+  EXPECT_EQ(place("new").get_x(), before.get_x());
+  EXPECT_EQ(place("0").get_x(), place("1").get_x() - before.get_width() - 10);
+  EXPECT_EQ(column->get_height(), 3'334 * (50 + 10) - 10);
+  expectSightIsFilled();
+}
+
+TEST_F(LazyRowsTest, AGridTakesAnotherCountOfColumnsInAnotherWidth) {
+  show(records(10'000), threeColumns);
+  stage->resize(360, 400);
+  draw();
+  EXPECT_EQ(place("2").get_x(), 28) << "two columns";
+  EXPECT_EQ(column->get_height(), 5'000 * (50 + 10) - 10);
+  expectSightIsFilled();
+}
+
+TEST_F(LazyRowsTest, InAGridTheLineWithTheFocusStaysHoweverFarItIsScrolledAway) {
+  show(records(10'000), threeColumns);
+  auto* focused = row("4");
+  focused->grab_focus();
+  scrollToEnd();
+  EXPECT_EQ(stage->window().get_focus(), focused);
+  expectSightIsFilled();
+  scrollTo(0);
+  EXPECT_EQ(rows().at(4), focused) << "and it is back in its place";
+}
+
+TEST_F(LazyRowsTest, InAMirroredWindowTheFirstColumnIsOnTheRight) {
+  scroller.set_direction(Gtk::TextDirection::RTL);
+  Gtk::Widget::set_default_direction(Gtk::TextDirection::RTL);
+  show(records(5), threeColumns);
+  EXPECT_EQ(place("0").get_x() + place("0").get_width(), 500 - 28);
+  EXPECT_EQ(place("2").get_x(), 28);
+  Gtk::Widget::set_default_direction(Gtk::TextDirection::LTR);
+}
+
 TEST(LazyRows, OutsideAViewportAllRowsExist) {
   std::deque<Record> list = records(60);
-  LazyRows<Record, Row> column(list, 10, [](const Record& record) { return Gtk::make_managed<Row>(record); });
+  LazyRows<Record, Row> column(list, LazyGrid::Form{.spacing = 10},
+                               [](const Record& record) { return Gtk::make_managed<Row>(record); });
   column.refresh();
   TestWindow stage(column, 300);
   drawFrame(column);
