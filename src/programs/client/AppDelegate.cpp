@@ -13,7 +13,8 @@ void AppDelegate::applicationDidFinishLaunching() {
     fatalError("Unexpectedly found nil while implicitly unwrapping an Optional value", "AppDelegate",
                __LINE__);
   for (auto* window : application->get_windows())
-    window->present();
+    if (!window->get_transient_for())
+      window->present();
 }
 
 } // namespace quorvel

@@ -68,6 +68,7 @@ void QuorvelApp::showBeside(std::unique_ptr<Gtk::Window>& window,
                             const std::function<std::unique_ptr<Gtk::Window>()>& make) {
   if (!window) {
     window = make();
+    add_window(*window); // or the program's keys would be dead in it
     window->set_transient_for(*window_);
     window->set_hide_on_close(true);
   }

@@ -158,6 +158,10 @@ std::string Client::xWindow() const {
   return id.substr(0, id.find('\n'));
 }
 
+std::string Client::windowWithKeys() const {
+  return outputOf({"xdotool", "getwindowfocus", "getwindowname"});
+}
+
 void Client::type(const std::string& keys) const {
   outputOf({"xdotool", "key", "--clearmodifiers", keys});
 }

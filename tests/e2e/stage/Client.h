@@ -66,6 +66,8 @@ class Client {
   /// Kills the process that renders the page, as a crash would.
   void killWebProcess() const;
 
+  /// The title of the window that the keyboard writes to.
+  std::string windowWithKeys() const;
   /// The main window as xdotool knows it.
   std::string xWindow() const;
 
