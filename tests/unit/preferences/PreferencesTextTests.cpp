@@ -38,9 +38,35 @@ TEST(PreferencesText, ReadsTrueAndFalse) {
   EXPECT_EQ(valueIn("[Preferences]\nQuorvel.showInspector=false\n"), false);
 }
 
-TEST(PreferencesText, SpacesCarriageReturnsAndAMissingLastLineEndDoNotMatter) {
-  EXPECT_EQ(valueIn("  [Preferences]\t\r\n Quorvel.showInspector = false \r\n"), false);
+TEST(PreferencesText, SpacesAndAMissingLastLineEndDoNotMatter) {
+  EXPECT_EQ(valueIn("  [Preferences]\t\n Quorvel.showInspector = false \n"), false);
   EXPECT_EQ(valueIn("[Preferences]\nQuorvel.showInspector=false"), false);
+}
+
+TEST(PreferencesText, ALineEndsAsOnAnySystem) {
+  for (const std::string end : {"\n", "\r\n", "\r"}) {
+    const auto header = "[Preferences]" + end;
+    EXPECT_EQ(valueIn(end + header + "Quorvel.showInspector=false" + end), false);
+    EXPECT_EQ(edited(header + "Quorvel.showInspector=false" + end + "x" + end, true),
+              header + "Quorvel.showInspector=true" + end + "x" + end);
+    EXPECT_EQ(edited(header + "x", true), header + "x" + end + "Quorvel.showInspector=true" + end);
+    EXPECT_EQ(edited("x" + end, true), "x" + end + header + "Quorvel.showInspector=true" + end);
+  }
+}
+
+TEST(PreferencesText, AByteOrderMarkCountsAsABlank) {
+  const std::string mark = "\ufeff";
+  EXPECT_EQ(valueIn(mark + "[Preferences]\nQuorvel.showInspector=false\n"), false);
+  EXPECT_EQ(valueIn(mark + mark + " [Preferences] " + mark + "\nQuorvel.showInspector=false\n"), false);
+  EXPECT_EQ(valueIn("[Preferences]\n" + mark + "Quorvel.showInspector = " + mark + "false\n"), false);
+  EXPECT_EQ(edited(mark + "[Preferences]\n", false), mark + "[Preferences]\nQuorvel.showInspector=false\n");
+  EXPECT_EQ(edited(mark, false), mark + "\n[Preferences]\nQuorvel.showInspector=false\n");
+}
+
+TEST(PreferencesText, ATextThatNobodyEditsStaysByteForByte) {
+  using namespace std::string_literals;
+  for (const auto& text : {""s, "\n"s, "x"s, "\r\r\n\n\r"s, "\0\n\0"s, "a\r\nb\nc\rd"s, "\ufeff\xff\xfe"s})
+    EXPECT_EQ(PreferencesText(text).text(), text);
 }
 
 TEST(PreferencesText, AMissingKeyIsAbsent) {
@@ -75,6 +101,11 @@ TEST(PreferencesText, ABrokenLineDoesNotHideTheOtherKeys) {
 
 TEST(PreferencesText, TheFirstKeyMakesItsGroup) {
   EXPECT_EQ(edited("", false), "[Preferences]\nQuorvel.showInspector=false\n");
+}
+
+TEST(PreferencesText, ALastLineThatIsNotEndedStaysSo) {
+  EXPECT_EQ(edited("[Preferences]\nQuorvel.showInspector=true", false),
+            "[Preferences]\nQuorvel.showInspector=false");
 }
 
 TEST(PreferencesText, AValueIsChangedInItsLine) {
