@@ -1,11 +1,16 @@
 #include "preferences/Preferences.h"
 
-#include <giomm/file.h>
-#include <giomm/init.h>
+#include <algorithm>
+#include <glibmm/main.h>
 #include <glibmm/miscutils.h>
 
 namespace quorvel {
 namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds firstPause = 10ms;
+constexpr std::chrono::milliseconds longestPause = 1min;
 
 std::size_t index(PreferenceKey key) {
   return static_cast<std::size_t>(key);
@@ -13,16 +18,17 @@ std::size_t index(PreferenceKey key) {
 
 } // namespace
 
-Preferences::Preferences(const std::string& path) : file_(path) {
-  Gio::init();
-  file_.makeFolder();
-  watch(); // Before reading, so that no change falls in between.
+Preferences::Preferences(const std::string& path)
+    : file_(path), watch_(path, [this] { followFile(); }), untilNextTry_(firstPause) {
+  file_.prepareFolder();
   stored_ = valuesIn(file_.read().value_or(PreferencesText()));
 }
 
 Preferences::~Preferences() {
-  if (monitor_)
-    monitor_->cancel();
+  nextTry_.disconnect();
+  readFile();
+  if (!isStored())
+    write(1s);
 }
 
 std::string Preferences::standardPath() {
@@ -30,24 +36,21 @@ std::string Preferences::standardPath() {
 }
 
 bool Preferences::isOn(PreferenceKey key) const {
-  return unstored_[index(key)].value_or(stored_[index(key)].value_or(defaultValue(key)));
+  return shown(key, stored_, unstored_);
 }
 
 void Preferences::set(PreferenceKey key, bool isOn) {
   if (isOn == this->isOn(key))
     return;
   objectWillChange().emit();
+  if (!isStored())
+    readFile(); // Flips that wait yield to what others have flipped since.
   unstored_[index(key)] = isOn;
   store();
 }
 
-void Preferences::watch() {
-  try {
-    monitor_ = Gio::File::create_for_path(file_.path())->monitor_file();
-    monitor_->signal_changed().connect([this](const auto&...) { reload(); });
-  } catch (const Glib::Error&) {
-    // The switches still work, they only do not follow other programs.
-  }
+bool Preferences::shown(PreferenceKey key, const Values& stored, const Values& unstored) {
+  return unstored[index(key)].value_or(stored[index(key)].value_or(defaultValue(key)));
 }
 
 Preferences::Values Preferences::valuesIn(const PreferencesText& text) {
@@ -58,26 +61,58 @@ Preferences::Values Preferences::valuesIn(const PreferencesText& text) {
 }
 
 void Preferences::store() {
-  const auto text = file_.edit([this](PreferencesText& edited) {
-    for (const auto key : allCases<PreferenceKey>())
-      if (const auto value = unstored_[index(key)])
-        edited.setValue(rawValue(key), *value);
-  });
-  if (!text)
-    return;
-  stored_ = valuesIn(*text);
-  unstored_ = {};
+  nextTry_.disconnect();
+  if (const auto written = write(0ms)) {
+    untilNextTry_ = firstPause;
+    adopt(*written, {});
+  } else {
+    storeLater();
+  }
 }
 
-void Preferences::reload() {
+std::optional<Preferences::Values> Preferences::write(std::chrono::milliseconds patience) const {
+  const auto text = file_.edit(
+      [this](PreferencesText& edited) {
+        for (const auto key : allCases<PreferenceKey>())
+          if (const auto value = unstored_[index(key)])
+            edited.setValue(rawValue(key), *value);
+      },
+      patience);
+  return text ? std::optional<Values>(valuesIn(*text)) : std::nullopt;
+}
+
+/// A lock is soon gone, a full disk or a missing right may last: each pause is twice as long as the one
+/// before.
+void Preferences::storeLater() {
+  const auto tryAgain = [this] {
+    followFile();
+    return false;
+  };
+  nextTry_ = Glib::signal_timeout().connect(tryAgain, static_cast<unsigned>(untilNextTry_.count()));
+  untilNextTry_ = std::min(2 * untilNextTry_, longestPause);
+}
+
+void Preferences::followFile() {
+  readFile();
+  if (!isStored())
+    store(); // What stood in the way may be gone.
+}
+
+void Preferences::readFile() {
   const auto values = valuesIn(file_.read().value_or(PreferencesText()));
-  if (values == stored_)
-    return;
-  objectWillChange().emit();
+  auto unstored = unstored_;
   for (const auto key : allCases<PreferenceKey>())
     if (values[index(key)] != stored_[index(key)])
-      unstored_[index(key)].reset(); // Somebody flipped it later than we did.
-  stored_ = values;
+      unstored[index(key)].reset(); // Somebody flipped it later than we did.
+  adopt(values, unstored);
+}
+
+void Preferences::adopt(const Values& stored, const Values& unstored) {
+  const auto isSeen = [&](PreferenceKey key) { return shown(key, stored, unstored) != isOn(key); };
+  if (std::ranges::any_of(allCases<PreferenceKey>(), isSeen))
+    objectWillChange().emit();
+  stored_ = stored;
+  unstored_ = unstored;
 }
 
 } // namespace quorvel

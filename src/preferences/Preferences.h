@@ -1,11 +1,12 @@
 #pragma once
 
 #include "observation/ObservableObject.h"
+#include "preferences/FileWatch.h"
 #include "preferences/PreferenceKey.h"
 #include "preferences/PreferencesFile.h"
 
 #include <array>
-#include <giomm/filemonitor.h>
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -15,8 +16,9 @@ namespace quorvel {
 ///
 /// The file is written only when a switch is flipped, and at once; it holds the keys that were ever flipped,
 /// all others have their default. A change made by another program arrives, announced, through the main loop.
-/// When the file cannot be written the switch still works until the program ends, and is written along with
-/// the next flip that can be. Belongs to the main thread.
+/// When the file cannot be written, or another program keeps it locked, the switch works all the same;
+/// writing is tried again until it succeeds or somebody else flips that switch. Nothing ever waits for that
+/// but the end, for a second at most. Belongs to the main thread.
 class Preferences : public ObservableObject {
  public:
   /// Watches the file at `path`, whose folder is made (0700) so that it can be watched; the file is not made.
@@ -32,16 +34,23 @@ class Preferences : public ObservableObject {
 
  private:
   using Values = std::array<std::optional<bool>, allCases<PreferenceKey>().size()>;
+  static bool shown(PreferenceKey key, const Values& stored, const Values& unstored);
   static Values valuesIn(const PreferencesText& text);
 
-  void watch();
+  bool isStored() const { return unstored_ == Values{}; }
   void store();
-  void reload();
+  std::optional<Values> write(std::chrono::milliseconds patience) const;
+  void storeLater();
+  void followFile();
+  void readFile();
+  void adopt(const Values& stored, const Values& unstored);
 
   PreferencesFile file_;
+  FileWatch watch_;
   Values stored_;
   Values unstored_;
-  Glib::RefPtr<Gio::FileMonitor> monitor_;
+  std::chrono::milliseconds untilNextTry_; ///< after one that failed
+  sigc::connection nextTry_;
 };
 
 } // namespace quorvel

@@ -1,133 +1,13 @@
-#include "preferences/Preferences.h"
+#include "unit/preferences/PreferencesFixture.h"
 
-#include <csignal>
 #include <fcntl.h>
-#include <filesystem>
-#include <fstream>
-#include <glibmm/main.h>
-#include <glibmm/spawn.h>
-#include <gmock/gmock.h>
 #include <list>
 #include <sys/file.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace quorvel {
 namespace {
 
-namespace fs = std::filesystem;
 using ::testing::ElementsAre;
-using Key = PreferenceKey;
-
-/// Runs the main loop until the condition holds; false if it does not within ten seconds.
-template <class Condition>
-bool eventually(Condition holds) {
-  bool isOver = false;
-  auto deadline = Glib::signal_timeout().connect(
-      [&isOver] {
-        isOver = true;
-        return true;
-      },
-      10'000);
-  while (!holds() && !isOver)
-    Glib::MainContext::get_default()->iteration(true);
-  deadline.disconnect();
-  return holds();
-}
-
-/// While it lives, the file system treats the test as a user without rights, also where the tests run as
-/// root.
-struct WithoutRights {
-  WithoutRights() : user(::geteuid()) {
-    constexpr uid_t nobody = 65534;
-    EXPECT_TRUE(user != 0 || ::seteuid(nobody) == 0);
-  }
-  ~WithoutRights() { EXPECT_TRUE(user != 0 || ::seteuid(user) == 0); }
-  const uid_t user;
-};
-
-/// While it lives, no file can grow past `size` bytes: the disk is full.
-struct FullDisk {
-  explicit FullDisk(rlim_t size) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit full{size, before.rlim_max};
-    EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
-  }
-  ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before); }
-  rlimit before{};
-};
-
-/// A second program with the same preferences.
-class Peer {
- public:
-  explicit Peer(std::vector<std::string> arguments, const std::vector<std::string>& environment = {}) {
-    arguments.insert(arguments.begin(), PREFERENCES_PEER);
-    Glib::spawn_async_with_pipes("", arguments, environment, Glib::SpawnFlags::DO_NOT_REAP_CHILD, {}, &pid_,
-                                 nullptr, &output_);
-  }
-  Peer(const Peer&) = delete;
-  Peer& operator=(const Peer&) = delete;
-  ~Peer() {
-    if (pid_ != 0)
-      ::kill(pid_, SIGKILL);
-    ::close(output_);
-  }
-
-  std::string nextLine() {
-    std::string line;
-    for (char letter = 0; letter != '\n' && ::read(output_, &letter, 1) == 1;)
-      line += letter;
-    return line;
-  }
-  /// The line it says before it ends well.
-  std::string lastWords() {
-    const auto line = nextLine();
-    int status = 0;
-    EXPECT_EQ(::waitpid(std::exchange(pid_, 0), &status, 0) > 0 ? status : -1, 0);
-    return line;
-  }
-
- private:
-  Glib::Pid pid_ = 0;
-  int output_ = -1;
-};
-
-struct PreferencesTest : ::testing::Test {
-  PreferencesTest() {
-    std::string pattern = (fs::temp_directory_path() / "quorvel-preferences-XXXXXX").string();
-    root = g_mkdtemp(pattern.data());
-    fs::permissions(root, fs::perms(0755));
-    folder = root / "quorvel";
-    file = folder / "preferences.ini";
-  }
-  ~PreferencesTest() override { fs::remove_all(root); }
-
-  void write(const std::string& text) const {
-    fs::create_directories(folder);
-    std::ofstream(file, std::ios::binary) << text;
-  }
-  std::string written() const {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
-  std::vector<std::string> namesInFolder() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder))
-      names.push_back(entry.path().filename());
-    return names;
-  }
-  static unsigned mode(const fs::path& path) { return static_cast<unsigned>(fs::status(path).permissions()); }
-
-  /// Another program flips a switch so many times; what it then says.
-  std::string peerFlips(Key key, int times = 1) const {
-    return Peer({file, "flip", std::string(rawValue(key)), std::to_string(times)}).lastWords();
-  }
-
-  fs::path root, folder, file;
-};
 
 TEST_F(PreferencesTest, OnAFreshAccountEverySwitchIsOnAndNoFileIsMade) {
   const Preferences preferences(file);
@@ -352,6 +232,17 @@ TEST_F(PreferencesTest, AFlipThatCouldNotBeWrittenYieldsToALaterOneFromOutside) 
   }
   write("[Preferences]\nQuorvel.showInspector=true\n");
   EXPECT_TRUE(eventually([&] { return preferences.isOn(Key::showInspector); }));
+}
+
+TEST_F(PreferencesTest, AFlipThatCouldNotBeWrittenIsNotWrittenOverALaterOneFromOutsideWithTheNext) {
+  Preferences preferences(file);
+  {
+    const FullDisk scope(0);
+    preferences.set(Key::showInspector, false);
+  }
+  write("[Preferences]\nQuorvel.showInspector=true\n");
+  preferences.set(Key::dailyBriefEnabled, false);
+  EXPECT_EQ(written(), "[Preferences]\nQuorvel.showInspector=true\nQuorvel.dailyBriefEnabled=false\n");
 }
 
 TEST_F(PreferencesTest, WithoutAPlaceForTheFolderASwitchWorksInMemory) {
