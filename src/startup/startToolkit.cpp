@@ -1,6 +1,7 @@
 #include "startup/startToolkit.h"
 
 #include "startup/GraphicsEnvironment.h"
+#include "startup/messageBuses.h"
 
 #include <gtk/gtk.h>
 #include <iostream>
@@ -9,6 +10,7 @@ namespace quorvel {
 
 bool startToolkit(const ProgramName& program) {
   GraphicsEnvironment().apply();
+  keepUsableBuses();
   g_set_prgname(program.identifier); // by which a desktop finds the icon of the window
   if (gtk_init_check())
     return true;

@@ -1,5 +1,8 @@
 #include "e2e/stage/ClientTest.h"
 
+#include <cerrno>
+#include <fstream>
+
 namespace quorvel::e2e {
 namespace {
 
@@ -30,6 +33,15 @@ class SurroundingsTest : public ClientTest {
   }
 };
 
+TEST_F(SurroundingsTest, NothingThatATestStartsCanWriteOutsideOfItsFolders) {
+  for (const auto& folder :
+       {fs::path("/"), fs::path("/home"), fs::path("/var/tmp"), stage.folder().parent_path()}) {
+    std::ofstream file(folder / "quorvel-was-here");
+    EXPECT_FALSE(file.is_open()) << folder;
+    EXPECT_EQ(errno, EROFS) << folder;
+  }
+}
+
 TEST_F(SurroundingsTest, WithoutADisplayTheProgramSaysSoInOneSentenceAndEnds) {
   Client client({{"DISPLAY", std::nullopt}});
   EXPECT_EQ(client.process().waitForEnd(), 1);
@@ -37,14 +49,52 @@ TEST_F(SurroundingsTest, WithoutADisplayTheProgramSaysSoInOneSentenceAndEnds) {
   EXPECT_THAT(stage.requests().requests(), IsEmpty());
 }
 
-TEST_F(SurroundingsTest, WithoutASessionBusThePageShowsAndAnswers) {
-  launch({{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"}});
-  EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains("shown=/agent.html")));
-  EXPECT_NE(client().xWindow(), "");
-  client().type("ctrl+r");
-  EXPECT_TRUE(eventually([&] { return stage.requests().count(agentPage); }, Eq(2)));
-  quit();
+/// A bus that the environment names, or does not, and that is not there.
+struct NoBus {
+  std::string name;
+  std::string variable;
+  std::optional<std::string> address;
+};
+
+void PrintTo(const NoBus& noBus, std::ostream* out) {
+  *out << noBus.name;
 }
+
+const NoBus nothingInTheRootFolder{"NothingInTheRootFolder", "DBUS_SESSION_BUS_ADDRESS",
+                                   "unix:path=/nonexistent"};
+
+class NoBusTest : public SurroundingsTest {
+ protected:
+  void expectThePageShowsAndAnswers(const NoBus& noBus, const Arguments& through = {}) {
+    // Where the owner's own bus lies in the usual place the toolkit would find it there.
+    launch({{"XDG_RUNTIME_DIR", stage.folder() / "tmp"}, {noBus.variable, noBus.address}}, through);
+    EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains("shown=/agent.html")))
+        << client().said();
+    EXPECT_NE(client().xWindow(), "");
+    client().type("ctrl+r");
+    EXPECT_TRUE(eventually([&] { return stage.requests().count(agentPage); }, Eq(2)));
+    quit();
+  }
+};
+
+class WithoutABusTest : public NoBusTest, public testing::WithParamInterface<NoBus> {};
+
+TEST_P(WithoutABusTest, ThePageShowsAndAnswers) {
+  expectThePageShowsAndAnswers(GetParam());
+}
+
+TEST_F(NoBusTest, ThePageShowsAndAnswersForRootToo) {
+  mayLack = {"a user namespace"};
+  expectThePageShowsAndAnswers(nothingInTheRootFolder, lacking("nothing-as-root"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Bus, WithoutABusTest,
+    testing::Values(nothingInTheRootFolder,
+                    NoBus{"NoFolder", "DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/folder/bus"},
+                    NoBus{"NoAddress", "DBUS_SESSION_BUS_ADDRESS", std::nullopt},
+                    NoBus{"NoAccessibilityBus", "AT_SPI_BUS_ADDRESS", "unix:path=/nonexistent"}),
+    [](const auto& noBus) { return noBus.param.name; });
 
 TEST_F(SurroundingsTest, WithoutAHomeFolderThePageShowsAndAnswers) {
   const std::string nowhere = "/proc/nowhere";

@@ -1,4 +1,5 @@
 #include "brand/StyleSheet.h"
+#include "startup/messageBuses.h"
 
 #include <filesystem>
 #include <glib/gstdio.h>
@@ -20,6 +21,7 @@ int main(int argc, char** argv) {
   g_setenv("GDK_DEBUG", "gl-disable", true);
   g_setenv("GSETTINGS_BACKEND", "memory", true);
 
+  quorvel::keepUsableBuses();
   if (!gtk_init_check()) {
     g_printerr("The tests of widgets need a display; ./dev test starts a virtual one.\n");
     return 1;

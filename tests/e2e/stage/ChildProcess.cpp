@@ -37,6 +37,11 @@ void printInto(const std::string& file) {
   ::dup2(output, STDERR_FILENO);
 }
 
+std::string textOf(const std::string& path) {
+  std::ifstream file(path);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
 struct ProcessStatus {
   std::string name;
   char state = 'X';
@@ -44,8 +49,7 @@ struct ProcessStatus {
 };
 
 ProcessStatus statusOf(pid_t id) {
-  std::ifstream file("/proc/" + std::to_string(id) + "/stat");
-  const std::string text{std::istreambuf_iterator<char>(file), {}};
+  const auto text = textOf("/proc/" + std::to_string(id) + "/stat");
   const auto nameEnd = text.rfind(')');
   if (nameEnd == std::string::npos)
     return {};
@@ -117,6 +121,22 @@ std::vector<pid_t> descendants(pid_t ancestor, const std::string& name) {
       found.push_back(id);
   }
   return found;
+}
+
+std::vector<std::string> lacksOfSandbox(pid_t process, pid_t program) {
+  const auto space = [](pid_t id, const char* kind) {
+    std::error_code hasEnded;
+    return std::filesystem::read_symlink("/proc/" + std::to_string(id) + "/ns/" + kind, hasEnded);
+  };
+  std::vector<std::string> lacks;
+  for (const auto& [kind, name] :
+       {std::pair{"user", "a user namespace"}, {"mnt", "a mount namespace"}, {"pid", "a process namespace"}})
+    if (const auto own = space(process, kind); own.empty() || own == space(program, kind))
+      lacks.emplace_back(name);
+  if (textOf("/proc/" + std::to_string(process) + "/status").find("\nSeccomp:\t2\n") == std::string::npos)
+    lacks.emplace_back("a filter of system calls");
+  const bool hasEnded = std::string("XZ").find(statusOf(process).state) != std::string::npos;
+  return hasEnded ? std::vector<std::string>() : lacks;
 }
 
 std::string outputOf(const Arguments& command, const Environment& environment) {

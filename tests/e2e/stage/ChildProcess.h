@@ -37,6 +37,10 @@ class ChildProcess {
 /// The running processes below `ancestor` whose name, as far as the system keeps it (15 letters), is `name`.
 std::vector<pid_t> descendants(pid_t ancestor, const std::string& name);
 
+/// What a process that `program` started lacks of a sandbox of its own: "a user namespace" and so on. Empty
+/// where it lacks nothing, or has ended.
+std::vector<std::string> lacksOfSandbox(pid_t process, pid_t program);
+
 /// Runs a command to its end and returns what it printed to its standard output, without the last line break.
 std::string outputOf(const Arguments& command, const Environment& environment = {});
 

@@ -25,6 +25,8 @@ Client& ClientTest::start(const Environment& environment, const Arguments& throu
   launch(environment, through);
   EXPECT_TRUE(eventually([&] { return client().window().has_value(); })) << client().said();
   waitForPage("/agent.html", shownBefore + 1);
+  EXPECT_THAT(descendants(client().process().id(), "WebKitWebProces"), Not(IsEmpty()));
+  expectConfined();
   return client();
 }
 
@@ -43,11 +45,20 @@ void ClientTest::expectHighlighted(const std::vector<std::string>& rows) {
 }
 
 void ClientTest::quit() {
+  expectConfined();
   client().type("ctrl+q");
   EXPECT_EQ(client().process().waitForEnd(), 0) << client().said();
 }
 
+void ClientTest::expectConfined() {
+  const auto program = client().process().id();
+  for (const auto page : descendants(program, "WebKitWebProces"))
+    EXPECT_THAT(lacksOfSandbox(page, program), Eq(mayLack));
+}
+
 void ClientTest::TearDown() {
+  if (client_ && !client().process().status())
+    expectConfined();
   if (!HasFailure() || !client_)
     return;
   const std::filesystem::path folder = QUORVEL_FAILURES;

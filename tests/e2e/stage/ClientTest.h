@@ -39,6 +39,12 @@ class ClientTest : public testing::Test {
   void quit();
   Client& client() { return *client_; }
 
+  /// Expects every page's process to be in a sandbox, as each test does by itself at the start and at the
+  /// end.
+  void expectConfined();
+  /// What this test's pages may lack of a sandbox.
+  std::vector<std::string> mayLack;
+
   /// Waits until a reporting page has come on the screen for the n-th time and has ended loading.
   void waitForPage(const std::string& path, int times = 1);
   /// Expects the address field to come to show this.

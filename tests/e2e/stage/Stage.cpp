@@ -50,7 +50,8 @@ fs::path Stage::makeFolder() {
   std::string name = (fs::temp_directory_path() / "quorvel-stage-XXXXXX").string();
   if (!::mkdtemp(name.data()))
     throw std::runtime_error("cannot make a folder for the test's files");
-  fs::create_directory(fs::path(name) / "pages");
+  for (const auto* folder : {"pages", "tmp"})
+    fs::create_directory(fs::path(name) / folder);
   return name;
 }
 
