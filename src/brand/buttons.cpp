@@ -54,6 +54,10 @@ void setAccessibleDescription(Gtk::Widget& widget, const Glib::ustring& descript
                                  description.c_str(), -1);
 }
 
+void setAccessiblyHidden(Gtk::Widget& widget) {
+  gtk_accessible_update_state(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_STATE_HIDDEN, TRUE, -1);
+}
+
 void setAccessibleSelected(Gtk::Widget& widget, bool isSelected) {
   gtk_accessible_update_state(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_STATE_SELECTED, isSelected, -1);
 }

@@ -3,10 +3,10 @@
 #include "layout/stacks.h"
 
 #include <gtkmm/button.h>
-#include <gtkmm/label.h>
 
 namespace quorvel {
 
+class AddressField;
 class DesktopBrowserModel;
 
 /// Back, forward, reload, the address on screen, and the way out to the default browser.
@@ -23,7 +23,7 @@ class DesktopClientToolbar : public HStack {
   Gtk::Button* back_;
   Gtk::Button* forward_;
   Gtk::Button* reload_;
-  Gtk::Label* address_;
+  AddressField* address_;
 };
 
 } // namespace quorvel

@@ -1,6 +1,7 @@
 #include "client/ContentView.h"
 
 #include "brand/QuorvelBrand.h"
+#include "client/AddressField.h"
 #include "client/DesktopClientNavRow.h"
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
@@ -58,6 +59,12 @@ class ContentViewTest : public ModelTest {
   }
   Gtk::Button& button(const char* name) { return *buttonNamed(*view, name); }
   Gdk::Rectangle bounds(const Gtk::Widget& widget) { return boundsIn(*view, widget); }
+  std::string shownAddress() {
+    std::string address;
+    for (const auto& part : tests::texts(the<AddressField>()))
+      address += part;
+    return address;
+  }
   std::vector<std::string> highlighted() {
     std::vector<std::string> titles;
     for (auto* row : tests::all<DesktopClientNavRow>(*view))
@@ -80,7 +87,7 @@ TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
           "Help and contact", "LIVE BACKEND", "WebKit",
           "This app is connected to app.quorvel.example, so sign-in, sessions, billing, connectors, and "
           "the agent workspace run through the live service.",
-          server.address("/agent.html"), "Open externally"));
+          server.address(""), "/agent.html", "Open externally"));
   EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
 }
 
@@ -151,7 +158,7 @@ TEST_F(ContentViewTest, OnAnotherSiteNoRowIsHighlightedAndTheFieldShowsItsAddres
   server.page("/elsewhere", "<title>Elsewhere</title>");
   showPage("/elsewhere");
   EXPECT_THAT(highlighted(), IsEmpty());
-  EXPECT_TRUE(labelled(*view, server.address("/elsewhere")));
+  EXPECT_EQ(shownAddress(), server.address("/elsewhere"));
 }
 
 TEST_F(ContentViewTest, TheHighlightedRowIsRaisedAndOutlinedAndTheOthersHaveNoBox) {
@@ -204,15 +211,33 @@ TEST_F(ContentViewTest, ASpinnerFloatsAtTheTopCentreOfThePageWhileItLoadsAndOnly
   EXPECT_FALSE(spinner.get_spinning());
 }
 
-TEST_F(ContentViewTest, AVeryLongAddressIsShortenedInTheMiddle) {
+TEST_F(ContentViewTest, AVeryLongAddressIsShortenedAndTheWindowDoesNotGrow) {
   const auto path = "/agent.html?" + std::string(400, 'x') + "end";
   showPage(path);
-  auto* address = labelled(*view, server.address(path));
-  ASSERT_TRUE(address);
-  EXPECT_EQ(address->get_ellipsize(), Pango::EllipsizeMode::MIDDLE);
-  EXPECT_TRUE(address->get_layout()->is_ellipsized());
-  EXPECT_EQ(address->get_layout()->get_line_count(), 1);
-  EXPECT_EQ(bounds(the<DesktopClientToolbar>()).get_width(), 873) << "the window does not grow";
+  EXPECT_EQ(shownAddress(), server.address(path));
+  EXPECT_TRUE(labelled(*view, path)->get_layout()->is_ellipsized());
+  EXPECT_EQ(bounds(the<DesktopClientToolbar>()).get_width(), 873);
+}
+
+TEST_F(ContentViewTest, WhatAPagePutsIntoItsAddressMisleadsNobody) {
+  runScript("history.pushState(null, '', '/agent.html#\\u202eelpmaxe.\\u0430pp')");
+  waitForAddress("/agent.html#%E2%80%AEelpmaxe.%D0%B0pp");
+  tests::drawFrame(*view);
+  EXPECT_EQ(shownAddress(), server.address("/agent.html#%E2%80%AEelpmaxe.%D0%B0pp"));
+
+  const auto misleading = "http://app.quorvel.example@" + server.address("/pricing.html").substr(7);
+  model->load(misleading);
+  EXPECT_EQ(*model->currentURLString, misleading) << "what is published is exact";
+  ASSERT_TRUE(tests::waitUntil([&] { return shownAddress() == server.address("/pricing.html"); }))
+      << shownAddress();
+}
+
+TEST_F(ContentViewTest, AnAddressOfAMegabyteIsCutBeforeItIsLaidOut) {
+  runScript("history.pushState(null, '', '/agent.html#' + 'x'.repeat(1000000))");
+  ASSERT_TRUE(tests::waitUntil([&] { return model->currentURLString->size() > 1'000'000; }));
+  tests::drawFrame(*view);
+  EXPECT_LT(shownAddress().size(), 5'000u);
+  EXPECT_EQ(bounds(the<DesktopClientToolbar>()).get_width(), 873);
 }
 
 TEST_F(ContentViewTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlways) {
