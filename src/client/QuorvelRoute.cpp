@@ -1,37 +1,34 @@
 #include "client/QuorvelRoute.h"
 
 #include "client/ServiceOrigin.h"
+#include "vocabulary/Enumeration.h"
 #include "vocabulary/fatalError.h"
 
-#include <array>
 #include <glib.h>
 
 namespace quorvel {
 namespace {
 
-struct RouteRow {
+/// Where a route leads and how its page is told from others.
+struct Address {
   std::string_view path;
   std::string_view marker;
   bool refusesFragment;
   unsigned line;
 
-  constexpr RouteRow(std::string_view itsPath, std::string_view itsMarker, bool itRefusesFragment = false,
-                     unsigned itsLine = __builtin_LINE())
+  constexpr Address(std::string_view itsPath, std::string_view itsMarker, bool itRefusesFragment = false,
+                    unsigned itsLine = __builtin_LINE())
       : path(itsPath), marker(itsMarker), refusesFragment(itRefusesFragment), line(itsLine) {}
 };
 
-constexpr std::array rows{
-    RouteRow{"/agent.html?source=mac_app", "/agent.html", true},
-    RouteRow{"/agent.html?source=mac_app#connectorsCenter", "#connectorsCenter"},
-    RouteRow{"/agent.html?source=mac_app#browserWorkspace", "#browserWorkspace"},
-    RouteRow{"/agent.html?source=mac_app#voiceAgentCard", "#voiceAgentCard"},
-    RouteRow{"/pricing.html", "/pricing.html"},
-    RouteRow{"/support.html", "/support.html"},
+constexpr PerCase<QuorvelRoute, Address> addresses{
+    Address{"/agent.html?source=mac_app", "/agent.html", true},
+    Address{"/agent.html?source=mac_app#connectorsCenter", "#connectorsCenter"},
+    Address{"/agent.html?source=mac_app#browserWorkspace", "#browserWorkspace"},
+    Address{"/agent.html?source=mac_app#voiceAgentCard", "#voiceAgentCard"},
+    Address{"/pricing.html", "/pricing.html"},
+    Address{"/support.html", "/support.html"},
 };
-
-constexpr const RouteRow& row(QuorvelRoute route) {
-  return rows[static_cast<std::size_t>(route)];
-}
 
 bool contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
@@ -40,11 +37,13 @@ bool contains(std::string_view text, std::string_view part) {
 } // namespace
 
 std::string url(QuorvelRoute route) {
-  return parsedAddress(std::string(serviceOrigin).append(row(route).path), row(route).line);
+  const auto& address = addresses[route];
+  return parsedAddress(std::string(serviceOrigin).append(address.path), address.line);
 }
 
 bool matches(QuorvelRoute route, std::string_view address) {
-  return contains(address, row(route).marker) && !(row(route).refusesFragment && contains(address, "#"));
+  const auto& [path, marker, refusesFragment, line] = addresses[route];
+  return contains(address, marker) && !(refusesFragment && contains(address, "#"));
 }
 
 std::string parsedAddress(const std::string& literal, unsigned line) {

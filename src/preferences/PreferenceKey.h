@@ -20,7 +20,7 @@ struct EnumerationTable<PreferenceKey> {
     std::string_view rawValue; ///< the key in the file
     bool defaultValue;
   };
-  static constexpr std::array rows{
+  static constexpr PerCase<PreferenceKey, Row> rows{
       Row{"Quorvel.requireApprovalForSpend", true},
       Row{"Quorvel.requireApprovalForCustomerMessages", true},
       Row{"Quorvel.requireApprovalForBookings", true},

@@ -12,8 +12,8 @@ struct EnumerationTable<AccentTone> {
   struct Row {
     std::string_view rawValue;
   };
-  static constexpr std::array rows{Row{"ink"},  Row{"green"}, Row{"blue"}, Row{"clay"},
-                                   Row{"gold"}, Row{"mint"},  Row{"slate"}};
+  static constexpr PerCase<AccentTone, Row> rows{Row{"ink"},  Row{"green"}, Row{"blue"}, Row{"clay"},
+                                                 Row{"gold"}, Row{"mint"},  Row{"slate"}};
 };
 
 } // namespace quorvel

@@ -12,7 +12,7 @@ struct EnumerationTable<AgentLoad> {
   struct Row {
     std::string_view rawValue;
   };
-  static constexpr std::array rows{Row{"Idle"}, Row{"Active"}, Row{"Drafting"}, Row{"Review"}};
+  static constexpr PerCase<AgentLoad, Row> rows{Row{"Idle"}, Row{"Active"}, Row{"Drafting"}, Row{"Review"}};
 };
 
 } // namespace quorvel

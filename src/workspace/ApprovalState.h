@@ -13,8 +13,9 @@ struct EnumerationTable<ApprovalState> {
     std::string_view rawValue;
     AccentTone tone;
   };
-  static constexpr std::array rows{Row{"Needs review", AccentTone::gold}, Row{"Approved", AccentTone::green},
-                                   Row{"Paused", AccentTone::slate}};
+  static constexpr PerCase<ApprovalState, Row> rows{Row{"Needs review", AccentTone::gold},
+                                                    Row{"Approved", AccentTone::green},
+                                                    Row{"Paused", AccentTone::slate}};
 };
 
 constexpr AccentTone tone(ApprovalState state) {

@@ -13,8 +13,9 @@ struct EnumerationTable<RequestStatus> {
     std::string_view rawValue;
     AccentTone tone;
   };
-  static constexpr std::array rows{Row{"Routed", AccentTone::blue}, Row{"Drafting", AccentTone::green},
-                                   Row{"Waiting", AccentTone::gold}, Row{"Complete", AccentTone::slate}};
+  static constexpr PerCase<RequestStatus, Row> rows{
+      Row{"Routed", AccentTone::blue}, Row{"Drafting", AccentTone::green}, Row{"Waiting", AccentTone::gold},
+      Row{"Complete", AccentTone::slate}};
 };
 
 constexpr AccentTone tone(RequestStatus status) {

@@ -16,7 +16,7 @@ struct EnumerationTable<WorkspaceSection> {
     std::string_view symbol;
     char shortcut;
   };
-  static constexpr std::array rows{
+  static constexpr PerCase<WorkspaceSection, Row> rows{
       Row{"overview", "Command Center", "Today at a glance", "rectangle.3.group", '1'},
       Row{"agents", "Agent Team", "Specialized helpers", "person.2.wave.2", '2'},
       Row{"requests", "Live Requests", "Queued work", "tray.and.arrow.down", '3'},

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace quorvel {
@@ -53,6 +54,23 @@ TYPED_TEST(EveryEnumeration, GivesNothingForARawValueWithOneLetterMoreOrLess) {
     EXPECT_EQ(fromRawValue<TypeParam>(text + " "), std::nullopt);
     EXPECT_EQ(fromRawValue<TypeParam>(text.substr(1)), std::nullopt);
   }
+}
+
+enum class Signal { stop, wait, go };
+
+TEST(PerCase, HoldsAValueForEachCaseInDeclarationOrder) {
+  constexpr PerCase<Signal, int> waits{30, 5, 0};
+  EXPECT_EQ(waits[Signal::stop], 30);
+  EXPECT_EQ(waits[Signal::go], 0);
+  EXPECT_THAT(std::vector(waits.begin(), waits.end()), ElementsAre(30, 5, 0));
+}
+
+TEST(PerCase, CannotBeMadeWhileACaseIsMissingOrWithOneTooMany) {
+  EXPECT_EQ(caseCount<Signal>(), 3U);
+  EXPECT_TRUE((std::is_constructible_v<PerCase<Signal, int>, int, int, int>));
+  EXPECT_FALSE((std::is_constructible_v<PerCase<Signal, int>, int, int>));
+  EXPECT_FALSE((std::is_constructible_v<PerCase<Signal, int>, int, int, int, int>));
+  EXPECT_FALSE((std::is_default_constructible_v<PerCase<Signal, int>>));
 }
 
 TEST(WorkspaceSection, HasItsTextsSymbolsAndShortcutsInOrder) {
