@@ -21,6 +21,10 @@ void Container::append(Gtk::Widget& child) {
   child.set_parent(*this);
 }
 
+void Container::place(Gtk::Widget& child, Gtk::Widget* previous) {
+  insertAfter(*this, child, previous);
+}
+
 std::vector<Gtk::Widget*> Container::visibleChildren() const {
   std::vector<Gtk::Widget*> children;
   for (auto* child = const_cast<Container*>(this)->get_first_child(); child;
@@ -32,6 +36,13 @@ std::vector<Gtk::Widget*> Container::visibleChildren() const {
 
 Gtk::SizeRequestMode Container::get_request_mode_vfunc() const {
   return Gtk::SizeRequestMode::HEIGHT_FOR_WIDTH;
+}
+
+void insertAfter(Gtk::Widget& parent, Gtk::Widget& child, Gtk::Widget* previous) {
+  if (previous)
+    child.insert_after(parent, *previous);
+  else
+    child.insert_at_start(parent);
 }
 
 Request widthRequest(const Gtk::Widget& widget) {

@@ -13,6 +13,8 @@ class Container : public Gtk::Widget {
 
   /// Takes over a managed widget as the last child.
   void append(Gtk::Widget& child);
+  /// Puts a managed widget behind `previous`, or first where that is nothing; moves it where it is a child.
+  void place(Gtk::Widget& child, Gtk::Widget* previous);
 
   /// The children that take part in the layout, in order.
   std::vector<Gtk::Widget*> visibleChildren() const;
@@ -24,6 +26,9 @@ class Container : public Gtk::Widget {
  private:
   void releaseChildren();
 };
+
+/// Makes a managed widget the child of `parent` that follows `previous`, or the first where that is nothing.
+void insertAfter(Gtk::Widget& parent, Gtk::Widget& child, Gtk::Widget* previous);
 
 /// What a widget asks for in one direction, in points.
 struct Request {

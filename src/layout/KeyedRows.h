@@ -13,14 +13,18 @@ namespace quorvel {
 ///
 /// A kept id keeps its widget, so focus, hover and a running animation survive; a record that did not change
 /// is not shown again; new rows are inserted, gone ones removed, moved ones moved. `Row` is a managed widget
-/// with `show(const Record&)`. The container has no other children and outlives this object's use.
+/// with `show(const Record&)`, and stands in its container as any other child that is placed there. The
+/// container (a `VStack`, a `Container`) has no other children and outlives this object's use.
 template <class Record, class Row>
 class KeyedRows {
  public:
   /// Builds the row of a record that was not there before, already showing it.
   using MakeRow = std::function<Row*(const Record&)>;
 
-  KeyedRows(Gtk::Widget& container, MakeRow makeRow) : container_(container), makeRow_(std::move(makeRow)) {}
+  template <class Container>
+  KeyedRows(Container& container, MakeRow makeRow)
+      : container_(container), makeRow_(std::move(makeRow)),
+        place_([&container](Gtk::Widget& row, Gtk::Widget* previous) { container.place(row, previous); }) {}
 
   /// Shows these records, in this order. `records` is any range of `Record`; of two with one id the first
   /// counts.
@@ -37,7 +41,8 @@ class KeyedRows {
       entry.row->unparent();
     Gtk::Widget* previous = nullptr;
     for (auto* row : order) {
-      place(*row, previous);
+      if (!standsBehind(*row, previous))
+        place_(*row, previous);
       previous = row;
     }
   }
@@ -70,18 +75,13 @@ class KeyedRows {
   }
 
   /// A row that stands in its place already is left alone: moving a widget would take the focus from it.
-  void place(Gtk::Widget& row, Gtk::Widget* previous) {
-    const bool stands = row.get_parent() == &container_ && row.get_prev_sibling() == previous;
-    if (stands)
-      return;
-    if (previous)
-      row.insert_after(container_, *previous);
-    else
-      row.insert_at_start(container_);
+  bool standsBehind(const Gtk::Widget& row, const Gtk::Widget* previous) const {
+    return row.get_parent() == &container_ && row.get_prev_sibling() == previous;
   }
 
   Gtk::Widget& container_;
   MakeRow makeRow_;
+  std::function<void(Gtk::Widget& row, Gtk::Widget* previous)> place_;
   Entries rows_;
 };
 

@@ -3,43 +3,18 @@
 #include <gtkmm/separator.h>
 
 namespace quorvel {
-namespace {
-
-Gtk::Align align(HorizontalAlignment alignment) {
-  switch (alignment) {
-  case HorizontalAlignment::leading:
-    return Gtk::Align::START;
-  case HorizontalAlignment::centre:
-    return Gtk::Align::CENTER;
-  case HorizontalAlignment::trailing:
-    return Gtk::Align::END;
-  }
-  return Gtk::Align::FILL;
-}
-
-Gtk::Align align(VerticalAlignment alignment) {
-  switch (alignment) {
-  case VerticalAlignment::top:
-    return Gtk::Align::START;
-  case VerticalAlignment::centre:
-    return Gtk::Align::CENTER;
-  case VerticalAlignment::bottom:
-    return Gtk::Align::END;
-  }
-  return Gtk::Align::FILL;
-}
-
-} // namespace
-
 VStack::VStack(int spacing, HorizontalAlignment alignment)
     : Gtk::Box(Gtk::Orientation::VERTICAL, spacing), alignment_(alignment) {}
 
 void VStack::add(Children children) {
-  for (auto* child : children) {
-    if (!child->compute_expand(Gtk::Orientation::HORIZONTAL))
-      child->set_halign(align(alignment_));
-    append(*child);
-  }
+  for (auto* child : children)
+    place(*child, get_last_child());
+}
+
+void VStack::place(Gtk::Widget& child, Gtk::Widget* previous) {
+  if (!child.compute_expand(Gtk::Orientation::HORIZONTAL))
+    child.set_halign(static_cast<Gtk::Align>(alignment_));
+  insertAfter(*this, child, previous);
 }
 
 HStack::HStack(int spacing, VerticalAlignment alignment)
@@ -54,7 +29,7 @@ void HStack::setEqualWidths() {
 void HStack::add(Children children) {
   for (auto* child : children) {
     if (!child->compute_expand(Gtk::Orientation::VERTICAL))
-      child->set_valign(align(alignment_));
+      child->set_valign(static_cast<Gtk::Align>(alignment_));
     append(*child);
   }
 }
@@ -83,6 +58,13 @@ Gtk::Widget* vspacer(int minimum) {
   spacer->set_size_request(-1, minimum);
   spacer->set_vexpand(true);
   return spacer;
+}
+
+Gtk::ScrolledWindow* verticalScroller(Gtk::Widget* content) {
+  auto* scroller = Gtk::make_managed<Gtk::ScrolledWindow>();
+  scroller->set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::AUTOMATIC);
+  scroller->set_child(*content);
+  return scroller;
 }
 
 Gtk::Widget* divider() {

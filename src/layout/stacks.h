@@ -3,6 +3,7 @@
 #include "layout/RowLayout.h"
 
 #include <gtkmm/box.h>
+#include <gtkmm/scrolledwindow.h>
 #include <initializer_list>
 
 namespace quorvel {
@@ -13,8 +14,16 @@ inline constexpr int defaultSpacing = 8;
 /// Children of a stack in order. Each is a managed widget that the stack takes over.
 using Children = std::initializer_list<Gtk::Widget*>;
 
-enum class HorizontalAlignment { leading, centre, trailing };
-enum class VerticalAlignment { top, centre, bottom };
+enum class HorizontalAlignment {
+  leading = static_cast<int>(Gtk::Align::START),
+  centre = static_cast<int>(Gtk::Align::CENTER),
+  trailing = static_cast<int>(Gtk::Align::END)
+};
+enum class VerticalAlignment {
+  top = static_cast<int>(Gtk::Align::START),
+  centre = static_cast<int>(Gtk::Align::CENTER),
+  bottom = static_cast<int>(Gtk::Align::END)
+};
 
 /// Children one below the other, `spacing` points apart. A child that does not expand sideways keeps its
 /// natural width and stands at `alignment`; one that does gets the whole width.
@@ -22,6 +31,8 @@ class VStack : public Gtk::Box {
  public:
   explicit VStack(int spacing, HorizontalAlignment alignment = HorizontalAlignment::leading);
   void add(Children children);
+  /// Puts a managed widget below `previous`, or on top where that is nothing; moves it where it is a child.
+  void place(Gtk::Widget& child, Gtk::Widget* previous);
 
  private:
   HorizontalAlignment alignment_;
@@ -49,6 +60,8 @@ HStack* hstack(int spacing, Children children, VerticalAlignment alignment = Ver
 Gtk::Widget* hspacer(int minimum = defaultSpacing);
 /// Takes the room that is left between its neighbours in a `VStack`, and never less than `minimum` points.
 Gtk::Widget* vspacer(int minimum = defaultSpacing);
+/// The content, which is never narrower than it must be, in an area that scrolls it up and down. Managed.
+Gtk::ScrolledWindow* verticalScroller(Gtk::Widget* content);
 /// A horizontal line, one point high, as wide as its stack.
 Gtk::Widget* divider();
 

@@ -1,4 +1,5 @@
 #include "layout/KeyedRows.h"
+#include "layout/stacks.h"
 #include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
@@ -25,7 +26,7 @@ struct Row : Gtk::Button {
 };
 
 struct KeyedRowsTest : ::testing::Test {
-  Gtk::Box container{Gtk::Orientation::VERTICAL};
+  VStack container{0};
   KeyedRows<Record, Row> rows{container, [](const Record& record) { return Gtk::make_managed<Row>(record); }};
 
   void show(const std::vector<Record>& records) { rows.show(records); }
