@@ -1,8 +1,8 @@
 #include "observation/Published.h"
 #include "observation/observe.h"
 
-#include <functional>
 #include <gmock/gmock.h>
+#include <memory>
 #include <vector>
 
 namespace quorvel {
@@ -15,26 +15,21 @@ struct Model : ObservableObject {
   Published<std::vector<int>> list{*this, {}};
 };
 
-/// Stands in for a widget: collects the tick callbacks that a frame would run.
 struct View : sigc::trackable {
   explicit View(Model& model) : model_(model) { observe(model, *this, &View::refresh); }
-
-  unsigned add_tick_callback(std::function<bool(int)> callback) {
-    ticks.push_back(std::move(callback));
-    return 0;
-  }
-  void drawFrame() {
-    for (auto& tick : std::exchange(ticks, {}))
-      EXPECT_FALSE(tick(0)) << "a refresh runs once per frame at most";
-  }
   void refresh() { shown.push_back(model_.count); }
 
-  std::vector<std::function<bool(int)>> ticks;
   std::vector<int> shown;
 
  private:
   Model& model_;
 };
+
+/// What happens before the next frame is drawn.
+void runMainLoop() {
+  while (Glib::MainContext::get_default()->iteration(false))
+    ;
+}
 
 TEST(Published, AnnouncesBeforeItAssigns) {
   Model model;
@@ -68,23 +63,23 @@ TEST(Observe, ShowsTheModelAtOnce) {
   EXPECT_THAT(view.shown, ElementsAre(1));
 }
 
-TEST(Observe, ManyAnnouncementsLeadToOneRefreshInTheNextFrame) {
+TEST(Observe, ManyAnnouncementsLeadToOneRefreshBeforeTheNextFrame) {
   Model model;
   View view(model);
   model.count = 2;
   model.count = 3;
-  EXPECT_THAT(view.shown, ElementsAre(1)) << "nothing is shown before the frame";
-  view.drawFrame();
+  EXPECT_THAT(view.shown, ElementsAre(1)) << "nothing is shown in the middle of the change";
+  runMainLoop();
   EXPECT_THAT(view.shown, ElementsAre(1, 3));
 }
 
-TEST(Observe, AChangeAfterAFrameIsShownInTheFollowingOne) {
+TEST(Observe, AChangeAfterARefreshIsShownByTheNext) {
   Model model;
   View view(model);
   model.count = 2;
-  view.drawFrame();
+  runMainLoop();
   model.count = 3;
-  view.drawFrame();
+  runMainLoop();
   EXPECT_THAT(view.shown, ElementsAre(1, 2, 3));
 }
 
@@ -93,6 +88,25 @@ TEST(Observe, TheTieEndsWithTheView) {
   { View view(model); }
   model.count = 2;
   EXPECT_TRUE(model.objectWillChange().empty());
+}
+
+TEST(Observe, AViewThatGoesBeforeItsRefreshIsNotRefreshed) {
+  Model model;
+  auto view = std::make_unique<View>(model);
+  model.count = 2;
+  view.reset();
+  runMainLoop();
+}
+
+TEST(Observe, ARefreshRunsAheadOfLayoutAndDrawing) {
+  Model model;
+  View view(model);
+  std::vector<int> shownWhenLaidOut;
+  constexpr int layoutPriority = Glib::PRIORITY_HIGH_IDLE + 10;
+  Glib::signal_idle().connect_once([&] { shownWhenLaidOut = view.shown; }, layoutPriority);
+  model.count = 2;
+  runMainLoop();
+  EXPECT_THAT(shownWhenLaidOut, ElementsAre(1, 2));
 }
 
 } // namespace
