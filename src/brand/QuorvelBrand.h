@@ -7,8 +7,9 @@
 
 namespace quorvel {
 
-/// The palette: the only place where a colour of the application is spelled out. Style sheets see every token
-/// under its own name (`@panelRaised`) and every tone as a class (`.tone-green`).
+/// The palette. With the colours that one view alone wears, below, it is the only place where a colour of the
+/// application is spelled out. Style sheets see every token under its own name (`@panelRaised`) and every
+/// tone as a class (`.tone-green`).
 struct QuorvelBrand {
   static constexpr Color background{0.008, 0.009, 0.010};
   static constexpr Color paper{0.020, 0.021, 0.022};
@@ -25,7 +26,7 @@ struct QuorvelBrand {
   static constexpr Color line = Color::white(0.115);
   static constexpr Color strongLine = Color::white(0.18);
 
-  /// The corner radius of everything rounded, in points.
+  /// The corner radius of everything rounded, in points; `@radius` in the style sheet.
   static constexpr double radius = 10.0;
 
   /// Evenly spaced colours from the top leading to the bottom trailing corner of a window.
@@ -34,25 +35,30 @@ struct QuorvelBrand {
   }
 };
 
+/// Colours that belong to one view and not to the palette.
+struct ViewColors {
+  static constexpr Color consoleSidebarTop{0.025, 0.020, 0.019};
+  static constexpr Color consoleSidebarBottom{0.012, 0.012, 0.013};
+  static constexpr Color inspector{0.030, 0.031, 0.033};
+  static constexpr Color userBubble{0.020, 0.105, 0.220};
+  static constexpr Color clientSidebarTop{0.028, 0.022, 0.020};
+  static constexpr Color clientSidebarBottom{0.006, 0.006, 0.007};
+  static constexpr Color clientToolbar{0.020, 0.018, 0.018};
+  /// The three buttons of the window that the browser screen draws.
+  static constexpr Color closeButton{1.000, 0.231, 0.188, 0.72};
+  static constexpr Color minimiseButton{1.000, 0.800, 0.000, 0.82};
+  static constexpr Color zoomButton{0.204, 0.780, 0.349, 0.72};
+};
+
+/// The tones' colours; two of them have no token of the palette.
+inline constexpr PerCase<AccentTone, Color> toneColors{
+    QuorvelBrand::ink,  QuorvelBrand::green,     QuorvelBrand::blue,      QuorvelBrand::clay,
+    QuorvelBrand::gold, Color{0.45, 0.74, 0.60}, Color{0.35, 0.40, 0.46},
+};
+
 /// The colour of a tone.
 constexpr Color color(AccentTone tone) {
-  switch (tone) {
-  case AccentTone::ink:
-    return QuorvelBrand::ink;
-  case AccentTone::green:
-    return QuorvelBrand::green;
-  case AccentTone::blue:
-    return QuorvelBrand::blue;
-  case AccentTone::clay:
-    return QuorvelBrand::clay;
-  case AccentTone::gold:
-    return QuorvelBrand::gold;
-  case AccentTone::mint:
-    return {0.45, 0.74, 0.60};
-  case AccentTone::slate:
-    return {0.35, 0.40, 0.46};
-  }
-  return QuorvelBrand::ink;
+  return toneColors[tone];
 }
 
 /// The tint behind text and symbols of the tone.

@@ -39,6 +39,16 @@ constexpr std::array tokens{
     Token{"gradientStart", gradient[0]},
     Token{"gradientMiddle", gradient[1]},
     Token{"gradientEnd", gradient[2]},
+    Token{"consoleSidebarTop", ViewColors::consoleSidebarTop},
+    Token{"consoleSidebarBottom", ViewColors::consoleSidebarBottom},
+    Token{"inspector", ViewColors::inspector},
+    Token{"userBubble", ViewColors::userBubble},
+    Token{"clientSidebarTop", ViewColors::clientSidebarTop},
+    Token{"clientSidebarBottom", ViewColors::clientSidebarBottom},
+    Token{"clientToolbar", ViewColors::clientToolbar},
+    Token{"closeButton", ViewColors::closeButton},
+    Token{"minimiseButton", ViewColors::minimiseButton},
+    Token{"zoomButton", ViewColors::zoomButton},
 };
 
 /// Percentages keep the exact fractions, which whole numbers up to 255 would round.
@@ -59,6 +69,17 @@ std::string paletteRules() {
   return rules.str();
 }
 
+/// The toolkit's style sheets can name colours, but no lengths.
+std::string withRadius(std::string rules) {
+  constexpr std::string_view name = "@radius";
+  const auto length = std::to_string(static_cast<int>(QuorvelBrand::radius)) + "px";
+  for (auto at = rules.find(name); at != rules.npos; at = rules.find(name, at))
+    rules.replace(at, name.size(), length);
+  return rules;
+}
+
+} // namespace
+
 std::string handWrittenRules() {
   g_resources_register(quorvel_get_resource());
   const auto bytes = Gio::Resource::lookup_data_global("/com/quorvel/Desktop/quorvel.css");
@@ -67,10 +88,8 @@ std::string handWrittenRules() {
   return {data, size};
 }
 
-} // namespace
-
 std::string styleSheet() {
-  return paletteRules() + typographyRules() + handWrittenRules();
+  return paletteRules() + typographyRules() + withRadius(handWrittenRules());
 }
 
 void installStyle() {

@@ -8,6 +8,9 @@ namespace quorvel {
 /// the rules of `quorvel.css`.
 std::string styleSheet();
 
+/// The rules of `quorvel.css` as they were written.
+std::string handWrittenRules();
+
 /// Gives the default display the dark appearance, the style sheet and the project's symbols. Call it once,
 /// when the toolkit has been initialised and before the first window.
 void installStyle();

@@ -1,23 +1,16 @@
 #include "brand/buttons.h"
 
+#include "brand/cssClass.h"
 #include "brand/symbol.h"
 #include "layout/stacks.h"
 
-#include <array>
-#include <string>
-
 namespace quorvel {
-namespace {
-
-constexpr std::array<const char*, 4> styleClasses{"plain", "bordered", "prominent", "link"};
-
-} // namespace
 
 Gtk::Button* button(Gtk::Widget* label, ButtonStyle style, Action action) {
   auto* result = Gtk::make_managed<Gtk::Button>();
   result->set_child(*label);
   result->add_css_class("quorvel-button");
-  result->add_css_class(styleClasses[static_cast<std::size_t>(style)]);
+  setLook(*result, style);
   result->signal_clicked().connect(std::move(action));
   return result;
 }

@@ -1,14 +1,24 @@
 #pragma once
 
+#include "vocabulary/Enumeration.h"
+
 #include <functional>
 #include <gtkmm/button.h>
-#include <string_view>
 
 namespace quorvel {
 
 /// `plain` has no chrome, `bordered` a quiet frame, `prominent` the filled accent colour, `link` reads as
 /// text.
 enum class ButtonStyle { plain, bordered, prominent, link };
+
+template <>
+struct EnumerationTable<ButtonStyle> {
+  struct Row {
+    std::string_view rawValue; ///< the style-sheet class
+  };
+  static constexpr PerCase<ButtonStyle, Row> rows{Row{"button-plain"}, Row{"button-bordered"},
+                                                  Row{"button-prominent"}, Row{"button-link"}};
+};
 
 using Action = std::function<void()>;
 

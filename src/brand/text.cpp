@@ -1,6 +1,6 @@
 #include "brand/text.h"
 
-#include <string>
+#include "brand/cssClass.h"
 
 namespace quorvel {
 
@@ -30,19 +30,15 @@ Gtk::Label* text(const Glib::ustring& content, const TextLook& look, int lines) 
 }
 
 void applyLook(Gtk::Widget& widget, const TextLook& look) {
-  widget.add_css_class(std::string(cssClass(look.style)));
+  setLook(widget, look.style);
   if (look.weight)
-    widget.add_css_class(std::string(cssClass(*look.weight)));
-  if (look.design == FontDesign::rounded)
-    widget.add_css_class("rounded");
+    setLook(widget, *look.weight);
+  setLook(widget, look.design);
   setColor(widget, look.color);
 }
 
 void setColor(Gtk::Widget& widget, TextColor color) {
-  for (const auto each : {TextColor::standard, TextColor::dimmed, TextColor::ink, TextColor::secondaryInk,
-                          TextColor::muted, TextColor::green, TextColor::black, TextColor::tone})
-    widget.remove_css_class(std::string(cssClass(each)));
-  widget.add_css_class(std::string(cssClass(color)));
+  setLook(widget, color);
 }
 
 } // namespace quorvel

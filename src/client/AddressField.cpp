@@ -1,6 +1,7 @@
 #include "client/AddressField.h"
 
 #include "brand/buttons.h"
+#include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/text.h"
 #include "client/displayedAddress.h"
@@ -69,9 +70,7 @@ void AddressField::Line::size_allocate_vfunc(int width, int height, int) {
 
 AddressField::AddressField() : HStack(0), line_(*Gtk::make_managed<Line>()) {
   auto* lock = symbol("lock.fill", {TextStyle::caption, FontWeight::bold, TextColor::green});
-  add({padded(12, 8, stretched(hstack(8, {lock, stretched(&line_)})))});
-  add_css_class("panel-raised");
-  add_css_class("outlined");
+  add({raisedPanel(Outline::line, padded(12, 8, hstack(8, {lock, stretched(&line_)})))});
 }
 
 void AddressField::show(const std::string& address) {

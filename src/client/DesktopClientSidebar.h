@@ -1,10 +1,8 @@
 #pragma once
 
 #include "client/QuorvelRoute.h"
+#include "layout/WidgetPer.h"
 #include "layout/stacks.h"
-
-#include <utility>
-#include <vector>
 
 namespace quorvel {
 
@@ -23,7 +21,7 @@ class DesktopClientSidebar : public VStack {
   void refresh();
 
   DesktopBrowserModel& browser_;
-  std::vector<std::pair<QuorvelRoute, DesktopClientNavRow*>> rows_;
+  WidgetPer<QuorvelRoute, DesktopClientNavRow> rows_;
 };
 
 } // namespace quorvel

@@ -1,14 +1,12 @@
 #include "console/ActivityCard.h"
 
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "brand/text.h"
 #include "brand/tone.h"
-
-#include <ranges>
+#include "console/RecordRows.h"
 
 namespace quorvel {
-
-constexpr int shownEntries = 4;
+namespace {
 
 class ActivityRow : public HStack {
  public:
@@ -40,17 +38,11 @@ void ActivityRow::show(const ActivityItem& entry) {
   detail_->set_text(entry.detail);
 }
 
-ActivityCard::ActivityCard()
-    : VStack(0), list_(vstack(14, {})),
-      rows_(*list_, [](const ActivityItem& entry) { return Gtk::make_managed<ActivityRow>(entry); }) {
-  applyCardStyle(*this);
-  add({padded(18,
-              stretched(vstack(14, {text("Activity", {.style = TextStyle::headline}), stretched(list_)})))});
-}
+} // namespace
 
-void ActivityCard::show(const RecordList<ActivityItem>& activity) {
-  rows_.show(activity | std::views::take(shownEntries));
-  list_->set_visible(!activity.empty());
+ActivityCard::ActivityCard(WorkspaceStore& store) : VStack(0) {
+  auto* entries = recordRows<VStack>(store, firstOf(store.activity, 4), made<ActivityRow>, 14);
+  add({quorvelCard(vstack(14, {text("Activity", {.style = TextStyle::headline}), entries}))});
 }
 
 } // namespace quorvel

@@ -1,23 +1,14 @@
 #pragma once
 
-#include "layout/KeyedRows.h"
 #include "layout/stacks.h"
-#include "workspace/ActivityItem.h"
+#include "workspace/WorkspaceStore.h"
 
 namespace quorvel {
 
-class ActivityRow;
-
-/// The first four entries of the activity feed, which are its newest.
+/// The first four entries of the activity feed, which are its newest. `store` outlives the card.
 class ActivityCard : public VStack {
  public:
-  ActivityCard();
-
-  void show(const RecordList<ActivityItem>& activity);
-
- private:
-  VStack* list_;
-  KeyedRows<ActivityItem, ActivityRow> rows_;
+  explicit ActivityCard(WorkspaceStore& store);
 };
 
 } // namespace quorvel

@@ -2,13 +2,12 @@
 
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "brand/text.h"
 #include "brand/tone.h"
+#include "console/RecordRows.h"
 #include "layout/AdaptiveGrid.h"
 #include "layout/Frame.h"
-#include "layout/KeyedRows.h"
-#include "observation/observe.h"
 
 #include <pango/pango.h>
 #include <string>
@@ -80,27 +79,13 @@ class AgentCard : public VStack {
   Gtk::Label* signal_;
 };
 
-class AgentGrid : public AdaptiveGrid {
- public:
-  explicit AgentGrid(WorkspaceStore& store) : AdaptiveGrid(260, 14), store_(store) {
-    observe(store, *this, &AgentGrid::refresh);
-  }
-
- private:
-  void refresh() { cards_.show(*store_.agents); }
-
-  WorkspaceStore& store_;
-  KeyedRows<AgentProfile, AgentCard> cards_{
-      *this, [](const AgentProfile& agent) { return Gtk::make_managed<AgentCard>(agent); }};
-};
-
 } // namespace
 
 AgentsView::AgentsView(WorkspaceStore& store) : VStack(22) {
   add({Gtk::make_managed<SectionHeader>("Agent team", "Specialists that pick up the work",
                                         "Each helper has a bounded job, a visible status, and outputs that "
                                         "wait for review when the action matters."),
-       Gtk::make_managed<AgentGrid>(store)});
+       recordRows<AdaptiveGrid>(store, allOf(store.agents), made<AgentCard>, 260, 14)});
 }
 
 } // namespace quorvel

@@ -3,13 +3,14 @@
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
 #include "brand/buttons.h"
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "brand/text.h"
+#include "console/RecordRows.h"
 #include "console/trailingTexts.h"
-#include "observation/observe.h"
 
 #include <algorithm>
 #include <gtkmm/root.h>
+#include <optional>
 
 namespace quorvel {
 namespace {
@@ -19,13 +20,9 @@ enum class Decision { pause, approve };
 using Decide = std::function<void(const ApprovalItem&)>;
 
 Gtk::Widget* stepChip(const std::string& step) {
-  auto* chip =
-      hstack(0, {padded(10, 7, text(step, {TextStyle::caption, FontWeight::bold, TextColor::secondaryInk}))});
-  chip->add_css_class("step-chip");
-  return chip;
+  constexpr TextLook look{TextStyle::caption, FontWeight::bold, TextColor::secondaryInk};
+  return surface("step-chip", padded(10, 7, text(step, look)));
 }
-
-} // namespace
 
 class ApprovalRow : public VStack {
  public:
@@ -59,9 +56,9 @@ ApprovalRow::ApprovalRow(const ApprovalItem& item, Decide approve, Decide pause)
       steps_(stretched(hstack(defaultSpacing, {}))),
       pause_(quorvel::button("Pause", ButtonStyle::bordered, [this, pause] { pause(item_); })),
       approve_(quorvel::button("Approve", ButtonStyle::prominent, [this, approve] { approve(item_); })) {
-  applyCardStyle(*this);
-  add({padded(18, stretched(vstack(16, {titleBlock(), withTrailingTexts(summary_, 6, {agent_, source_}),
-                                        steps_, hstack(defaultSpacing, {hspacer(), pause_, approve_})})))});
+  auto* body = withTrailingTexts(summary_, 6, {agent_, source_});
+  auto* actions = hstack(defaultSpacing, {hspacer(), pause_, approve_});
+  add({quorvelCard(vstack(16, {titleBlock(), body, steps_, actions}))});
   show(item);
 }
 
@@ -72,7 +69,8 @@ Gtk::Widget* ApprovalRow::titleBlock() {
 void ApprovalRow::show(const ApprovalItem& item) {
   const bool isWaiting = item.state == ApprovalState::waiting;
   title_->set_text(item.title);
-  state_->show(std::string(rawValue(item.state)), tone(item.state), isWaiting);
+  state_->show(std::string(rawValue(item.state)), tone(item.state),
+               isWaiting ? PillStyle::prominent : PillStyle::plain);
   risk_->show(item.risk, AccentTone::clay);
   summary_->set_text(item.summary);
   agent_->set_text(item.agent);
@@ -93,54 +91,51 @@ void ApprovalRow::showSteps(const std::vector<std::string>& steps) {
     steps_->add({stepChip(step)});
 }
 
-/// The button that has the focus: which row it stands in, counted from 0, and what it decides.
-struct ApprovalsView::Focus {
-  std::size_t place;
-  Decision decision;
+using ApprovalRows = RecordRows<VStack, ApprovalItem, ApprovalRow>;
+
+/// The gates. When the button with the focus is disabled by its own press, the focus goes on to the same
+/// button of the next gate that waits, or else of the one before.
+class Gates : public ApprovalRows {
+ public:
+  using ApprovalRows::ApprovalRows;
+
+ private:
+  /// The button that has the focus: which row it stands in, counted from 0, and what it decides.
+  struct Focus {
+    std::size_t place;
+    Decision decision;
+  };
+  void refresh() override;
+  std::vector<ApprovalRow*> rows();
+  std::optional<Focus> focus();
+  void passOn(const Focus& focus);
 };
 
-ApprovalsView::ApprovalsView(WorkspaceStore& store)
-    : VStack(22), store_(store), list_(vstack(12, {})), rows_(*list_, [&store](const ApprovalItem& item) {
-        return stretched(Gtk::make_managed<ApprovalRow>(
-            item, [&store](const ApprovalItem& shown) { store.approve(shown); },
-            [&store](const ApprovalItem& shown) { store.pause(shown); }));
-      }) {
-  add({Gtk::make_managed<SectionHeader>("Human gates", "Important actions wait here",
-                                        "Finance, ad spend, bookings, customer-facing messages, and "
-                                        "connected-app changes are separated from normal drafting."),
-       stretched(list_)});
-  observe(store, *this, &ApprovalsView::refresh);
-}
-
-void ApprovalsView::refresh() {
+void Gates::refresh() {
   const auto focused = focus();
-  rows_.show(*store_.approvals);
+  ApprovalRows::refresh();
   if (focused)
     passOn(*focused);
 }
 
-namespace {
-
-std::vector<ApprovalRow*> rowsOf(VStack& list) {
+std::vector<ApprovalRow*> Gates::rows() {
   std::vector<ApprovalRow*> rows;
-  for (auto* child = list.get_first_child(); child; child = child->get_next_sibling())
+  for (auto* child = get_first_child(); child; child = child->get_next_sibling())
     rows.push_back(dynamic_cast<ApprovalRow*>(child));
   return rows;
 }
 
-} // namespace
-
-std::optional<ApprovalsView::Focus> ApprovalsView::focus() const {
-  const auto rows = rowsOf(*list_);
-  for (std::size_t place = 0; place < rows.size(); ++place)
+std::optional<Gates::Focus> Gates::focus() {
+  const auto candidates = rows();
+  for (std::size_t place = 0; place < candidates.size(); ++place)
     for (const auto decision : {Decision::pause, Decision::approve})
-      if (rows[place]->button(decision).has_focus())
+      if (candidates[place]->button(decision).has_focus())
         return Focus{place, decision};
   return std::nullopt;
 }
 
-void ApprovalsView::passOn(const Focus& focus) {
-  auto candidates = rowsOf(*list_);
+void Gates::passOn(const Focus& focus) {
+  auto candidates = rows();
   // From the row that had it downwards, then upwards from there.
   const auto before =
       candidates.begin() + static_cast<std::ptrdiff_t>(std::min(focus.place, candidates.size()));
@@ -152,6 +147,20 @@ void ApprovalsView::passOn(const Focus& focus) {
     (*next)->button(focus.decision).grab_focus();
   else if (auto* root = dynamic_cast<Gtk::Widget*>(get_root()))
     root->child_focus(Gtk::DirectionType::TAB_FORWARD);
+}
+
+} // namespace
+
+ApprovalsView::ApprovalsView(WorkspaceStore& store) : VStack(22) {
+  const auto makeRow = [&store](const ApprovalItem& item) {
+    return Gtk::make_managed<ApprovalRow>(
+        item, [&store](const ApprovalItem& shown) { store.approve(shown); },
+        [&store](const ApprovalItem& shown) { store.pause(shown); });
+  };
+  add({Gtk::make_managed<SectionHeader>("Human gates", "Important actions wait here",
+                                        "Finance, ad spend, bookings, customer-facing messages, and "
+                                        "connected-app changes are separated from normal drafting."),
+       Gtk::make_managed<Gates>(store, allOf(store.approvals), makeRow, 12)});
 }
 
 } // namespace quorvel

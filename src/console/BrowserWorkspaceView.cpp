@@ -2,28 +2,18 @@
 
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
-#include "brand/card.h"
+#include "brand/cssClass.h"
+#include "brand/surfaces.h"
 #include "brand/text.h"
 #include "layout/Frame.h"
 
 namespace quorvel {
 namespace {
 
-/// The content on a ground of its own: a capsule, a tinted panel.
-Gtk::Widget* onGround(std::initializer_list<const char*> cssClasses, Gtk::Widget* content) {
-  auto* ground = Gtk::make_managed<HStack>(0);
-  for (const auto* cssClass : cssClasses)
-    ground->add_css_class(cssClass);
-  ground->append(*content);
-  return ground;
-}
-
-Gtk::Widget* circle(int diameter, std::initializer_list<const char*> cssClasses) {
-  auto* area = Gtk::make_managed<Gtk::Box>();
-  area->set_size_request(diameter, diameter);
-  auto* shape = onGround(cssClasses, area);
-  shape->set_valign(Gtk::Align::CENTER);
-  return shape;
+Gtk::Widget* windowButton(const char* kind) {
+  auto* button = disc("window-button", 11);
+  button->add_css_class(kind);
+  return button;
 }
 
 struct BrowserSideItem {
@@ -37,9 +27,8 @@ Gtk::Widget* sideItem(const BrowserSideItem& item) {
   auto* row = hstack(defaultSpacing, {text(item.title, look), hspacer()});
   if (*item.count)
     row->add({text(item.count, look)});
-  auto* capsule = onGround({"browser-side-item"}, padded(10, 7, row));
-  if (item.active)
-    capsule->add_css_class("active");
+  auto* capsule = surface("browser-side-item", padded(10, 7, row));
+  setCssClass(*capsule, "active", item.active);
   return capsule;
 }
 
@@ -47,8 +36,8 @@ Gtk::Widget* sidebar() {
   auto* folders = vstack(12, {text("Gmail", {TextStyle::headline}), sideItem({"Inbox", "1,323", true}),
                               sideItem({"Starred", "", false}), sideItem({"Sent", "", false}),
                               sideItem({"Drafts", "8", false}), vspacer()});
-  return onGround({"browser-sidebar"},
-                  padded(14, Gtk::make_managed<Frame>(Frame::Size{.width = 130}, *folders)));
+  return surface("browser-sidebar",
+                 padded(14, Gtk::make_managed<Frame>(Frame::Size{.width = 130}, *folders)));
 }
 
 struct BrowserMessage {
@@ -62,16 +51,15 @@ Gtk::Widget* messageRow(const BrowserMessage& message) {
   auto* texts = vstack(2, {text(message.sender, {TextStyle::caption, FontWeight::bold}),
                            text(message.subject, {TextStyle::callout, FontWeight::medium}),
                            text(message.detail, {TextStyle::caption, {}, TextColor::dimmed})});
-  auto* content = hstack(10, {circle(9, {"browser-message-dot"}), texts, hspacer()});
-  auto* row = onGround({"browser-message"}, padded(11, content));
-  if (message.active)
-    row->add_css_class("active");
+  auto* content = hstack(10, {disc("browser-message-dot", 9), texts, hspacer()});
+  auto* row = surface("browser-message", padded(11, content));
+  setCssClass(*row, "active", message.active);
   return row;
 }
 
 Gtk::Widget* searchField() {
   auto* hint = text("Search mail", {TextStyle::callout, {}, TextColor::dimmed});
-  return onGround({"browser-field"}, padded(10, stretched(hint)));
+  return surface("browser-field", padded(10, stretched(hint)));
 }
 
 Gtk::Widget* heldDraft() {
@@ -80,7 +68,7 @@ Gtk::Widget* heldDraft() {
                  text("Thanks for checking in. I confirmed the fulfillment note and the updated delivery "
                       "window is ready below.",
                       {TextStyle::callout})});
-  return onGround({"browser-draft"}, padded(14, draft));
+  return surface("browser-draft", padded(14, draft));
 }
 
 Gtk::Widget* messageColumn() {
@@ -99,11 +87,9 @@ Gtk::Widget* messageColumn() {
 Gtk::Widget* windowChrome() {
   auto* host = text("mail.example.com", {TextStyle::caption, FontWeight::medium, TextColor::dimmed});
   host->set_xalign(0.5);
-  return onGround(
-      {"browser-chrome"},
-      padded(12, hstack(8, {circle(11, {"window-button", "close"}), circle(11, {"window-button", "minimise"}),
-                            circle(11, {"window-button", "zoom"}),
-                            onGround({"browser-field"}, padded(0, 7, stretched(host)))})));
+  return surface("browser-chrome",
+                 padded(12, hstack(8, {windowButton("close"), windowButton("minimise"), windowButton("zoom"),
+                                       surface("browser-field", padded(0, 7, stretched(host)))})));
 }
 
 Gtk::Widget* browserMock() {

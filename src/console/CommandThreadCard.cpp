@@ -1,7 +1,8 @@
 #include "console/CommandThreadCard.h"
 
 #include "brand/StatusPill.h"
-#include "brand/card.h"
+#include "brand/cssClass.h"
+#include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/tone.h"
 
@@ -15,8 +16,9 @@ Gtk::Widget* header() {
   auto* title = vstack(3, {text("Chats", {TextStyle::title2, FontWeight::bold}),
                            text("Ask, monitor, approve.",
                                 {TextStyle::caption, FontWeight::semibold, TextColor::secondaryInk})});
-  return hstack(defaultSpacing,
-                {title, hspacer(), Gtk::make_managed<StatusPill>("Live", AccentTone::green, true)});
+  return hstack(
+      defaultSpacing,
+      {title, hspacer(), Gtk::make_managed<StatusPill>("Live", AccentTone::green, PillStyle::prominent)});
 }
 
 struct Message {
@@ -34,10 +36,8 @@ Gtk::Widget* bubble(const Message& message) {
                            text(message.text, {TextStyle::title3, FontWeight::bold, TextColor::ink})});
   if (message.detail)
     lines->add({text(*message.detail, {TextStyle::caption, FontWeight::semibold, TextColor::secondaryInk})});
-  auto* bubble = vstack(0, {padded(16, lines)});
-  bubble->add_css_class("chat-bubble");
-  if (message.isUser)
-    bubble->add_css_class("from-user");
+  auto* bubble = surface("chat-bubble", padded(16, lines));
+  setCssClass(*bubble, "from-user", message.isUser);
   return bubble;
 }
 
@@ -52,12 +52,8 @@ Gtk::Widget* approvalSnippet() {
       vstack(6, {text("APPROVAL READY", {TextStyle::caption, FontWeight::black, TextColor::green}),
                  text("Send 3 customer updates", {TextStyle::headline, FontWeight::bold, TextColor::ink})});
   auto* review = text("Review", {TextStyle::callout, FontWeight::black, TextColor::black});
-  auto* plate = hstack(0, {padded(18, 10, review)});
-  plate->add_css_class("review-plate");
-  auto* snippet = vstack(0, {padded(16, stretched(hstack(14, {notice, hspacer(), plate})))});
-  snippet->add_css_class("panel-raised");
-  snippet->add_css_class("strongly-outlined");
-  return stretched(snippet);
+  auto* plate = surface("review-plate", padded(18, 10, review));
+  return raisedPanel(Outline::strongLine, padded(16, hstack(14, {notice, hspacer(), plate})));
 }
 
 Gtk::Widget* thread() {
@@ -88,8 +84,7 @@ Gtk::Widget* composer(Action send) {
 } // namespace
 
 CommandThreadCard::CommandThreadCard(Action send) : VStack(0) {
-  applyCardStyle(*this);
-  add({padded(18, stretched(vstack(16, {header(), stretched(thread()), composer(std::move(send))})))});
+  add({quorvelCard(vstack(16, {header(), stretched(thread()), composer(std::move(send))}))});
 }
 
 } // namespace quorvel

@@ -4,13 +4,12 @@
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
 #include "brand/buttons.h"
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/tone.h"
+#include "console/RecordRows.h"
 #include "layout/AdaptiveGrid.h"
 #include "layout/Frame.h"
-#include "layout/KeyedRows.h"
-#include "observation/observe.h"
 
 namespace quorvel {
 namespace {
@@ -59,32 +58,17 @@ class ConnectorCard : public VStack {
   ModelSwitch* switch_;
 };
 
-class ConnectorGrid : public AdaptiveGrid {
- public:
-  explicit ConnectorGrid(WorkspaceStore& store) : AdaptiveGrid(230, 14), store_(store) {
-    observe(store, *this, &ConnectorGrid::refresh);
-  }
-
- private:
-  void refresh() { cards_.show(*store_.connectors); }
-
-  ConnectorCard* makeCard(const ConnectorItem& connector) {
-    return Gtk::make_managed<ConnectorCard>(connector,
-                                            [this, connector] { store_.toggleConnector(connector); });
-  }
-
-  WorkspaceStore& store_;
-  KeyedRows<ConnectorItem, ConnectorCard> cards_{
-      *this, [this](const ConnectorItem& connector) { return makeCard(connector); }};
-};
-
 } // namespace
 
 ConnectorsView::ConnectorsView(WorkspaceStore& store) : VStack(22) {
+  const auto makeCard = [&store](const ConnectorItem& connector) {
+    return Gtk::make_managed<ConnectorCard>(connector,
+                                            [&store, connector] { store.toggleConnector(connector); });
+  };
   add({Gtk::make_managed<SectionHeader>("Connectors", "Real context from working apps",
                                         "Quorvel's helper agents can work from messages, files, calendars, "
                                         "stores, payments, finance, ads, and browser context."),
-       Gtk::make_managed<ConnectorGrid>(store)});
+       recordRows<AdaptiveGrid>(store, allOf(store.connectors), makeCard, 230, 14)});
 }
 
 } // namespace quorvel

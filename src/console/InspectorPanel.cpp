@@ -1,20 +1,19 @@
 #include "console/InspectorPanel.h"
 
 #include "brand/StatusPill.h"
+#include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/tone.h"
+#include "console/RecordRows.h"
 #include "layout/Frame.h"
-#include "layout/KeyedRows.h"
+#include "layout/WidgetPer.h"
 #include "observation/observe.h"
 
-#include <ranges>
+#include <array>
 #include <string>
 
 namespace quorvel {
 namespace {
-
-constexpr std::size_t shownApprovals = 3;
-constexpr std::size_t shownActivity = 4;
 
 /// Names the section on screen.
 class Header : public HStack {
@@ -64,11 +63,21 @@ Gtk::Widget* haloedDot(AccentTone tone) {
 
 InspectorStat::InspectorStat(const Glib::ustring& title, AccentTone tone)
     : VStack(0), value_(text("", {TextStyle::title2, FontWeight::semibold})) {
-  add_css_class("panel-raised");
-  add_css_class("outlined");
   auto* figure = vstack(2, {value_, text(title, {TextStyle::caption, {}, TextColor::dimmed})});
-  add({padded(12, hstack(defaultSpacing, {figure, hspacer(), haloedDot(tone)}))});
+  auto* row = hstack(defaultSpacing, {figure, hspacer(), haloedDot(tone)});
+  add({raisedPanel(Outline::line, padded(12, row))});
 }
+
+struct Figure {
+  const char* title;
+  AccentTone tone;
+  int (WorkspaceStore::*count)() const;
+};
+constexpr std::array figures{
+    Figure{"Active requests", AccentTone::blue, &WorkspaceStore::activeRequestCount},
+    Figure{"Pending approvals", AccentTone::gold, &WorkspaceStore::pendingApprovalCount},
+    Figure{"Connected apps", AccentTone::green, &WorkspaceStore::connectedCount},
+};
 
 class Stats : public VStack {
  public:
@@ -78,24 +87,21 @@ class Stats : public VStack {
   void refresh();
 
   WorkspaceStore& store_;
-  InspectorStat* requests_;
-  InspectorStat* approvals_;
-  InspectorStat* apps_;
+  WidgetPer<int (WorkspaceStore::*)() const, InspectorStat> tiles_; ///< by what they count
 };
 
-Stats::Stats(WorkspaceStore& store)
-    : VStack(10, HorizontalAlignment::centre), store_(store),
-      requests_(Gtk::make_managed<InspectorStat>("Active requests", AccentTone::blue)),
-      approvals_(Gtk::make_managed<InspectorStat>("Pending approvals", AccentTone::gold)),
-      apps_(Gtk::make_managed<InspectorStat>("Connected apps", AccentTone::green)) {
-  add({requests_, approvals_, apps_});
+Stats::Stats(WorkspaceStore& store) : VStack(10, HorizontalAlignment::centre), store_(store) {
+  for (const auto& [title, tone, count] : figures) {
+    auto* tile = Gtk::make_managed<InspectorStat>(title, tone);
+    tiles_.emplace_back(count, tile);
+    add({tile});
+  }
   observe(store, *this, &Stats::refresh);
 }
 
 void Stats::refresh() {
-  requests_->setValue(store_.activeRequestCount());
-  approvals_->setValue(store_.pendingApprovalCount());
-  apps_->setValue(store_.connectedCount());
+  for (const auto& [count, tile] : tiles_)
+    tile->setValue((store_.*count)());
 }
 
 class PriorityCard : public VStack {
@@ -113,11 +119,10 @@ PriorityCard::PriorityCard(const ApprovalItem& approval)
     : VStack(0), state_(Gtk::make_managed<StatusPill>("", AccentTone::ink)),
       agent_(text("", {TextStyle::caption, {}, TextColor::dimmed})),
       title_(text("", {TextStyle::callout, FontWeight::medium}, 2)) {
-  add_css_class("panel-raised");
-  add_css_class("outlined");
   agent_->set_xalign(1);
   agent_->set_justify(Gtk::Justification::RIGHT);
-  add({padded(12, vstack(8, {hstack(defaultSpacing, {state_, hspacer(), agent_}), title_}))});
+  auto* head = hstack(defaultSpacing, {state_, hspacer(), agent_});
+  add({raisedPanel(Outline::line, padded(12, vstack(8, {head, title_})))});
   show(approval);
 }
 
@@ -153,37 +158,19 @@ void ActivityRow::show(const ActivityItem& entry) {
   timestamp_->set_text(entry.timestamp);
 }
 
-/// A heading over the first few records of one of the store's lists.
-template <Record Item, class Row>
-class Block : public VStack {
- public:
-  using List = Published<RecordList<Item>>;
-  Block(const Glib::ustring& heading, WorkspaceStore& store, const List& list, std::size_t shown)
-      : VStack(10), list_(list), shown_(shown), stack_(vstack(10, {})),
-        rows_(*stack_, [](const Item& item) { return Gtk::make_managed<Row>(item); }) {
-    add({text(heading, {TextStyle::subheadline, FontWeight::semibold}), stretched(stack_)});
-    observe(store, *this, &Block::refresh);
-  }
-
- private:
-  void refresh() { rows_.show(*list_ | std::views::take(shown_)); }
-
-  const List& list_;
-  std::size_t shown_;
-  VStack* stack_;
-  KeyedRows<Item, Row> rows_;
-};
-using PriorityBlock = Block<ApprovalItem, PriorityCard>;
-using ActivityBlock = Block<ActivityItem, ActivityRow>;
+/// A heading over the rows of a list.
+Gtk::Widget* block(const Glib::ustring& heading, Gtk::Widget* rows) {
+  return vstack(10, {text(heading, {TextStyle::subheadline, FontWeight::semibold}), rows});
+}
 
 } // namespace
 
 InspectorPanel::InspectorPanel(WorkspaceStore& store) : VStack(0) {
   add_css_class("inspector-panel");
-  auto* priority = Gtk::make_managed<PriorityBlock>("Priority", store, store.approvals, shownApprovals);
-  auto* activity = Gtk::make_managed<ActivityBlock>("Recent activity", store, store.activity, shownActivity);
-  add({padded(18, vstack(18, {Gtk::make_managed<Header>(store), Gtk::make_managed<Stats>(store), priority,
-                              activity, vspacer()}))});
+  auto* priority = recordRows<VStack>(store, firstOf(store.approvals, 3), made<PriorityCard>, 10);
+  auto* activity = recordRows<VStack>(store, firstOf(store.activity, 4), made<ActivityRow>, 10);
+  add({padded(18, vstack(18, {Gtk::make_managed<Header>(store), Gtk::make_managed<Stats>(store),
+                              block("Priority", priority), block("Recent activity", activity), vspacer()}))});
 }
 
 } // namespace quorvel

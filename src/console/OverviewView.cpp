@@ -4,7 +4,7 @@
 #include "brand/MetricTile.h"
 #include "brand/SectionHeader.h"
 #include "brand/buttons.h"
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "console/ActivityCard.h"
 #include "console/CommandThreadCard.h"
 #include "console/RequestQueueCard.h"
@@ -13,6 +13,7 @@
 #include "layout/Frame.h"
 #include "observation/observe.h"
 
+#include <array>
 #include <string>
 
 namespace quorvel {
@@ -57,43 +58,40 @@ Gtk::Widget* hero(WorkspaceStore& store) {
   return quorvelCard(stretched(forms), 24);
 }
 
+/// The cards' texts wrap and shorten, so what they happen to say does not decide how the cards are arranged.
+Gtk::Widget* workArea(WorkspaceStore& store) {
+  const auto column = [](int minimumWidth, Gtk::Widget* content) {
+    auto* frame = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = minimumWidth}, *content);
+    frame->set_valign(Gtk::Align::START);
+    return stretched(frame);
+  };
+  auto* thread = column(420, Gtk::make_managed<CommandThreadCard>([&store] { store.createRequest(); }));
+  auto* news = column(
+      340, vstack(18, {Gtk::make_managed<RequestQueueCard>(store), Gtk::make_managed<ActivityCard>(store)}));
+  return stretched(Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
+      {Orientation::HORIZONTAL, 18, {thread, news}}, {Orientation::VERTICAL, 18, {thread, news}}}));
+}
+
 } // namespace
 
 OverviewView::OverviewView(WorkspaceStore& store) : VStack(24), store_(store) {
-  add({hero(store), metricGrid(), workArea()});
+  add({hero(store), metricGrid(), workArea(store)});
   observe(store, *this, &OverviewView::refresh);
 }
 
 Gtk::Widget* OverviewView::metricGrid() {
   auto* grid = Gtk::make_managed<AdaptiveGrid>(168, 14);
-  for (std::size_t i = 0; i < metrics.size(); ++i) {
-    tiles_[i] = Gtk::make_managed<MetricTile>(metrics[i].title, "", metrics[i].detail, metrics[i].tone);
-    grid->append(*tiles_[i]);
+  for (const auto& [title, detail, tone, count] : metrics) {
+    auto* tile = Gtk::make_managed<MetricTile>(title, "", detail, tone);
+    tiles_.emplace_back(count, tile);
+    grid->append(*tile);
   }
   return grid;
 }
 
-/// The cards' texts wrap and shorten, so what they happen to say does not decide how the cards are arranged.
-Gtk::Widget* OverviewView::workArea() {
-  queue_ =
-      Gtk::make_managed<RequestQueueCard>([this] { store_.selectedSection = WorkspaceSection::requests; });
-  activity_ = Gtk::make_managed<ActivityCard>();
-  const auto column = [](int minimumWidth, Gtk::Widget& content) {
-    auto* frame = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = minimumWidth}, content);
-    frame->set_valign(Gtk::Align::START);
-    return stretched(frame);
-  };
-  auto* thread = column(420, *Gtk::make_managed<CommandThreadCard>([this] { store_.createRequest(); }));
-  auto* news = column(340, *vstack(18, {stretched(queue_), stretched(activity_)}));
-  return stretched(Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
-      {Orientation::HORIZONTAL, 18, {thread, news}}, {Orientation::VERTICAL, 18, {thread, news}}}));
-}
-
 void OverviewView::refresh() {
-  for (std::size_t i = 0; i < metrics.size(); ++i)
-    tiles_[i]->setValue(std::to_string((store_.*metrics[i].count)()));
-  queue_->show(store_.requests);
-  activity_->show(store_.activity);
+  for (const auto& [count, tile] : tiles_)
+    tile->setValue(std::to_string((store_.*count)()));
 }
 
 } // namespace quorvel

@@ -1,15 +1,12 @@
 #pragma once
 
+#include "layout/WidgetPer.h"
 #include "layout/stacks.h"
 #include "workspace/WorkspaceStore.h"
 
-#include <array>
-
 namespace quorvel {
 
-class ActivityCard;
 class MetricTile;
-class RequestQueueCard;
 
 /// The command centre: what the product is for, four figures, the command thread, the head of the queue and
 /// the latest activity. `store` outlives it.
@@ -19,13 +16,10 @@ class OverviewView : public VStack {
 
  private:
   Gtk::Widget* metricGrid();
-  Gtk::Widget* workArea();
   void refresh();
 
   WorkspaceStore& store_;
-  std::array<MetricTile*, 4> tiles_;
-  RequestQueueCard* queue_;
-  ActivityCard* activity_;
+  WidgetPer<int (WorkspaceStore::*)() const, MetricTile> tiles_; ///< by what they count
 };
 
 } // namespace quorvel

@@ -3,12 +3,11 @@
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
 #include "brand/buttons.h"
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/tone.h"
+#include "console/RecordRows.h"
 #include "layout/AdaptiveGrid.h"
-#include "layout/KeyedRows.h"
-#include "observation/observe.h"
 
 namespace quorvel {
 namespace {
@@ -67,20 +66,6 @@ class PlanCard : public VStack {
   Gtk::Button* select_;
 };
 
-class PlanGrid : public AdaptiveGrid {
- public:
-  explicit PlanGrid(WorkspaceStore& store) : AdaptiveGrid(230, gap), store_(store) {
-    observe(store, *this, &PlanGrid::refresh);
-  }
-
- private:
-  void refresh() { cards_.show(*store_.plans); }
-
-  WorkspaceStore& store_;
-  KeyedRows<PricingPlan, PlanCard> cards_{
-      *this, [](const PricingPlan& plan) { return Gtk::make_managed<PlanCard>(plan); }};
-};
-
 Gtk::Widget* comparisonTile(const Glib::ustring& name, const Glib::ustring& detail, AccentTone tone) {
   return quorvelCard(
       stretched(vstack(12, {dot(tone, 12), text(name, {TextStyle::headline}),
@@ -114,7 +99,7 @@ PricingView::PricingView(WorkspaceStore& store) : VStack(22) {
   add({Gtk::make_managed<SectionHeader>("Plans", "From one person to managed rollout",
                                         "The desktop app mirrors the public Quorvel packaging: start small, "
                                         "add helpers, then add managed setup for teams."),
-       Gtk::make_managed<PlanGrid>(store), comparison()});
+       recordRows<AdaptiveGrid>(store, allOf(store.plans), made<PlanCard>, 230, gap), comparison()});
 }
 
 } // namespace quorvel

@@ -1,16 +1,16 @@
 #include "console/RequestQueueCard.h"
 
 #include "brand/StatusPill.h"
-#include "brand/card.h"
+#include "brand/buttons.h"
+#include "brand/surfaces.h"
 #include "brand/text.h"
 #include "brand/tone.h"
+#include "console/RecordRows.h"
 
 #include <gtkmm/progressbar.h>
-#include <ranges>
 
 namespace quorvel {
-
-constexpr int shownRequests = 3;
+namespace {
 
 class RequestMiniRow : public VStack {
  public:
@@ -43,19 +43,15 @@ void RequestMiniRow::show(const RequestItem& request) {
   progress_->set_fraction(request.progress);
 }
 
-RequestQueueCard::RequestQueueCard(Action open)
-    : VStack(0), list_(vstack(14, {})), rows_(*list_, [](const RequestItem& request) {
-        return stretched(Gtk::make_managed<RequestMiniRow>(request));
-      }) {
-  applyCardStyle(*this);
-  auto* head = hstack(defaultSpacing, {text("Live queue", {TextStyle::headline, {}, TextColor::ink}),
-                                       hspacer(), button("Open", ButtonStyle::link, std::move(open))});
-  add({padded(18, stretched(vstack(14, {head, stretched(list_)})))});
-}
+} // namespace
 
-void RequestQueueCard::show(const RecordList<RequestItem>& requests) {
-  rows_.show(requests | std::views::take(shownRequests));
-  list_->set_visible(!requests.empty());
+RequestQueueCard::RequestQueueCard(WorkspaceStore& store) : VStack(0) {
+  auto* open =
+      button("Open", ButtonStyle::link, [&store] { store.selectedSection = WorkspaceSection::requests; });
+  auto* head = hstack(defaultSpacing,
+                      {text("Live queue", {TextStyle::headline, {}, TextColor::ink}), hspacer(), open});
+  auto* requests = recordRows<VStack>(store, firstOf(store.requests, 3), made<RequestMiniRow>, 14);
+  add({quorvelCard(vstack(14, {head, requests}))});
 }
 
 } // namespace quorvel

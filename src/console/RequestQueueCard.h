@@ -1,24 +1,14 @@
 #pragma once
 
-#include "brand/buttons.h"
-#include "layout/KeyedRows.h"
 #include "layout/stacks.h"
-#include "workspace/RequestItem.h"
+#include "workspace/WorkspaceStore.h"
 
 namespace quorvel {
 
-class RequestMiniRow;
-
-/// The first three requests of a list, with a way to the rest of them.
+/// The first three requests, with a way to the rest of them. `store` outlives the card.
 class RequestQueueCard : public VStack {
  public:
-  explicit RequestQueueCard(Action open);
-
-  void show(const RecordList<RequestItem>& requests);
-
- private:
-  VStack* list_;
-  KeyedRows<RequestItem, RequestMiniRow> rows_;
+  explicit RequestQueueCard(WorkspaceStore& store);
 };
 
 } // namespace quorvel

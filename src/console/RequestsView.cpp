@@ -3,10 +3,14 @@
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
 #include "brand/buttons.h"
-#include "brand/card.h"
+#include "brand/cssClass.h"
+#include "brand/surfaces.h"
 #include "brand/text.h"
 #include "brand/tone.h"
+#include "console/RecordRows.h"
 #include "console/trailingTexts.h"
+#include "layout/LazyRows.h"
+#include "layout/WidgetPer.h"
 #include "observation/observe.h"
 
 #include <array>
@@ -48,13 +52,8 @@ StepPill::StepPill(const char* title, bool isActive, AccentTone tone)
 
 void StepPill::show(bool isActive) {
   setColor(*title_, isActive ? TextColor::tone : TextColor::dimmed);
-  if (isActive)
-    add_css_class("active");
-  else
-    remove_css_class("active");
+  setCssClass(*this, "active", isActive);
 }
-
-} // namespace
 
 class RequestRow : public VStack {
  public:
@@ -72,7 +71,7 @@ class RequestRow : public VStack {
   Gtk::Label* agent_;
   Gtk::Label* lastUpdated_;
   Gtk::ProgressBar* progress_;
-  std::array<StepPill*, steps.size()> steps_;
+  WidgetPer<double, StepPill> steps_; ///< by the progress at which they are reached
 };
 
 RequestRow::RequestRow(const RequestItem& request)
@@ -83,8 +82,7 @@ RequestRow::RequestRow(const RequestItem& request)
       agent_(text("", {TextStyle::callout, FontWeight::medium})),
       lastUpdated_(text("", {TextStyle::caption, {}, TextColor::dimmed})),
       progress_(Gtk::make_managed<Gtk::ProgressBar>()) {
-  applyCardStyle(*this);
-  add({padded(18, stretched(vstack(16, {head(), stretched(progress_), path()})))});
+  add({quorvelCard(vstack(16, {head(), stretched(progress_), path()}))});
   show(request);
 }
 
@@ -96,9 +94,10 @@ Gtk::Widget* RequestRow::head() {
 Gtk::Widget* RequestRow::path() {
   auto* path = stretched(hstack(10, {}));
   path->setEqualWidths();
-  for (std::size_t i = 0; i < steps.size(); ++i) {
-    steps_[i] = Gtk::make_managed<StepPill>(steps[i].title, false, steps[i].tone);
-    path->add({steps_[i]});
+  for (const auto& [title, threshold, tone] : steps) {
+    auto* pill = Gtk::make_managed<StepPill>(title, false, tone);
+    steps_.emplace_back(threshold, pill);
+    path->add({pill});
   }
   return path;
 }
@@ -112,25 +111,25 @@ void RequestRow::show(const RequestItem& request) {
   lastUpdated_->set_text(request.lastUpdated);
   setTone(*progress_, tone(request.status));
   progress_->set_fraction(request.progress);
-  for (std::size_t i = 0; i < steps.size(); ++i)
-    steps_[i]->show(request.progress >= steps[i].threshold);
+  for (const auto& [threshold, pill] : steps_)
+    pill->show(request.progress >= threshold);
 }
 
-RequestsView::RequestsView(WorkspaceStore& store)
-    : VStack(22), rows_(Gtk::make_managed<LazyRows<RequestItem, RequestRow>>(
-                      *store.requests, LazyGrid::Form{.spacing = 12},
-                      [](const RequestItem& request) { return Gtk::make_managed<RequestRow>(request); })) {
+using RequestRows = LazyRows<RequestItem, RequestRow>;
+
+} // namespace
+
+RequestsView::RequestsView(WorkspaceStore& store) : VStack(22) {
   auto* header =
       Gtk::make_managed<SectionHeader>("Live requests", "Work moving through agents",
                                        "The queue shows source, assigned helper, current status, and "
                                        "the path toward a held draft or completed result.");
   auto* create = button("New Request", "plus", ButtonStyle::prominent, [&store] { store.createRequest(); });
-  add({hstack(defaultSpacing, {header, hspacer(), create}, VerticalAlignment::bottom), rows_});
-  observe(store, *this, &RequestsView::refresh);
-}
-
-void RequestsView::refresh() {
-  rows_->refresh();
+  // The list only grows, so its rows come and go with the scrolling.
+  auto* rows =
+      Gtk::make_managed<RequestRows>(*store.requests, LazyGrid::Form{.spacing = 12}, made<RequestRow>);
+  add({hstack(defaultSpacing, {header, hspacer(), create}, VerticalAlignment::bottom), rows});
+  observe(store, *rows, &RequestRows::refresh);
 }
 
 } // namespace quorvel

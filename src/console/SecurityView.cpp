@@ -4,14 +4,15 @@
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
 #include "brand/buttons.h"
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/tone.h"
+#include "console/RecordRows.h"
 #include "layout/Frame.h"
-#include "layout/KeyedRows.h"
+#include "layout/WidgetPer.h"
 #include "observation/observe.h"
 
-#include <map>
+#include <array>
 #include <string>
 
 namespace quorvel {
@@ -65,8 +66,9 @@ class TrustToggles : public VStack {
       : VStack(14, HorizontalAlignment::centre), preferences_(preferences) {
     for (const auto& gate : gates) {
       const auto write = [&preferences, key = gate.key](bool isOn) { preferences.set(key, isOn); };
-      toggles_[gate.key] = Gtk::make_managed<TrustToggle>(gate, write);
-      add({toggles_[gate.key]});
+      auto* toggle = Gtk::make_managed<TrustToggle>(gate, write);
+      toggles_.emplace_back(gate.key, toggle);
+      add({toggle});
     }
     observe(preferences, *this, &TrustToggles::refresh);
   }
@@ -78,7 +80,7 @@ class TrustToggles : public VStack {
   }
 
   Preferences& preferences_;
-  std::map<PreferenceKey, TrustToggle*> toggles_;
+  WidgetPer<PreferenceKey, TrustToggle> toggles_;
 };
 
 class ApprovalStateRow : public VStack {
@@ -109,27 +111,9 @@ class ApprovalStateRow : public VStack {
   StatusPill* state_;
 };
 
-class ApprovalList : public VStack {
- public:
-  explicit ApprovalList(WorkspaceStore& store) : VStack(16), store_(store) {
-    set_hexpand(true);
-    observe(store, *this, &ApprovalList::refresh);
-  }
-
- private:
-  void refresh() {
-    rows_.show(*store_.approvals);
-    set_visible(!store_.approvals->empty());
-  }
-
-  WorkspaceStore& store_;
-  KeyedRows<ApprovalItem, ApprovalStateRow> rows_{
-      *this, [](const ApprovalItem& approval) { return Gtk::make_managed<ApprovalStateRow>(approval); }};
-};
-
 Gtk::Widget* approvalProfile(WorkspaceStore& store) {
   auto* profile = vstack(16, {text("Current approval profile", {TextStyle::title3, FontWeight::semibold}),
-                              Gtk::make_managed<ApprovalList>(store)});
+                              recordRows<VStack>(store, allOf(store.approvals), made<ApprovalStateRow>, 16)});
   return quorvelCard(stretched(Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 340}, *profile)));
 }
 

@@ -2,15 +2,37 @@
 
 #include "brand/ModelSwitch.h"
 #include "brand/buttons.h"
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "brand/text.h"
 #include "layout/Frame.h"
 #include "layout/stacks.h"
 #include "observation/observe.h"
 
+#include <array>
 #include <gtkmm/gestureclick.h>
 
 namespace quorvel {
+namespace {
+
+struct Toggle {
+  PreferenceKey key;
+  const char* title;
+};
+
+struct Section {
+  const char* title;
+  std::array<Toggle, 2> toggles;
+};
+constexpr std::array sections{
+    Section{"Workspace",
+            {{{PreferenceKey::showInspector, "Show inspector"},
+              {PreferenceKey::dailyBriefEnabled, "Daily command brief"}}}},
+    Section{"Approval gates",
+            {{{PreferenceKey::requireApprovalForSpend, "Ad spend changes"},
+              {PreferenceKey::requireApprovalForCustomerMessages, "Customer-facing messages"}}}},
+};
+
+} // namespace
 
 /// A title and the switch of one preference. A click anywhere on the row flips it.
 class SettingsView::ToggleRow : public HStack {
@@ -29,7 +51,7 @@ class SettingsView::ToggleRow : public HStack {
     add_controller(click);
   }
 
-  void refresh() { switch_.show(preferences_.isOn(key_)); }
+  void show(bool isOn) { switch_.show(isOn); }
 
  private:
   Preferences& preferences_;
@@ -37,36 +59,27 @@ class SettingsView::ToggleRow : public HStack {
   ModelSwitch& switch_ = *Gtk::make_managed<ModelSwitch>([this](bool isOn) { preferences_.set(key_, isOn); });
 };
 
-namespace {
-
-Gtk::Widget* section(const Glib::ustring& title, Gtk::Widget* firstRow, Gtk::Widget* secondRow) {
-  auto* heading = text(title, {.style = TextStyle::headline});
-  auto* rows = vstack(0, {stretched(firstRow), padded(16, 0, divider()), stretched(secondRow)});
-  return stretched(vstack(10, {padded(16, 0, heading), quorvelCard(stretched(rows), 0)}));
-}
-
-} // namespace
-
-SettingsView::SettingsView(Preferences& preferences)
-    : requireApprovalForSpend_(*Gtk::make_managed<ToggleRow>("Ad spend changes", preferences,
-                                                             PreferenceKey::requireApprovalForSpend)),
-      requireApprovalForCustomerMessages_(*Gtk::make_managed<ToggleRow>(
-          "Customer-facing messages", preferences, PreferenceKey::requireApprovalForCustomerMessages)),
-      showInspector_(
-          *Gtk::make_managed<ToggleRow>("Show inspector", preferences, PreferenceKey::showInspector)),
-      dailyBriefEnabled_(*Gtk::make_managed<ToggleRow>("Daily command brief", preferences,
-                                                       PreferenceKey::dailyBriefEnabled)) {
-  auto* form = vstack(
-      24, {section("Workspace", &showInspector_, &dailyBriefEnabled_),
-           section("Approval gates", &requireApprovalForSpend_, &requireApprovalForCustomerMessages_)});
+SettingsView::SettingsView(Preferences& preferences) : preferences_(preferences) {
+  auto* form = vstack(24, {});
+  for (const auto& [title, toggles] : sections) {
+    auto* heading = text(title, {.style = TextStyle::headline});
+    auto* rows = vstack(0, {row(toggles[0].title, toggles[0].key), padded(16, 0, divider()),
+                            row(toggles[1].title, toggles[1].key)});
+    form->add({vstack(10, {padded(16, 0, heading), quorvelCard(rows, 0)})});
+  }
   append(*Gtk::make_managed<Frame>(Frame::Size{.width = 520}, *padded(24, form)));
   observe(preferences, *this, &SettingsView::refresh);
 }
 
+Gtk::Widget* SettingsView::row(const char* title, PreferenceKey key) {
+  auto* row = Gtk::make_managed<ToggleRow>(title, preferences_, key);
+  rows_.emplace_back(key, row);
+  return row;
+}
+
 void SettingsView::refresh() {
-  for (auto* row : {&requireApprovalForSpend_, &requireApprovalForCustomerMessages_, &showInspector_,
-                    &dailyBriefEnabled_})
-    row->refresh();
+  for (const auto& [key, row] : rows_)
+    row->show(preferences_.isOn(key));
 }
 
 } // namespace quorvel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/WidgetPer.h"
 #include "preferences/Preferences.h"
 
 #include <gtkmm/box.h>
@@ -17,12 +18,11 @@ class SettingsView : public Gtk::Box {
  private:
   class ToggleRow;
 
+  Gtk::Widget* row(const char* title, PreferenceKey key);
   void refresh();
 
-  ToggleRow& requireApprovalForSpend_;
-  ToggleRow& requireApprovalForCustomerMessages_;
-  ToggleRow& showInspector_;
-  ToggleRow& dailyBriefEnabled_;
+  Preferences& preferences_;
+  WidgetPer<PreferenceKey, ToggleRow> rows_;
 };
 
 } // namespace quorvel

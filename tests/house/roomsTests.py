@@ -59,7 +59,7 @@ class RoomsTest(unittest.TestCase):
         self.assertIn("the arrow workspace -> gtkmm is not declared", self.problems())
 
     def test_an_include_without_its_room_is_refused(self):
-        self.plant("brand/card.cpp", '#include "stacks.h"')
+        self.plant("brand/surfaces.cpp", '#include "stacks.h"')
         self.assertIn('"stacks.h" names no header with its room', self.problems())
 
     def test_an_arrow_that_nothing_uses_is_named(self):

@@ -13,14 +13,6 @@ constexpr int minimumWidth = 1180, minimumHeight = 760;
 constexpr int sidebarWidth = 272, inspectorWidth = 320;
 constexpr int widthWithInspector = 1500;
 
-/// The inspector does not scroll by itself, and a window may be lower than it.
-Gtk::Widget* scrolling(Gtk::Widget* column) {
-  auto* scroller = Gtk::make_managed<Gtk::ScrolledWindow>();
-  scroller->set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::AUTOMATIC);
-  scroller->set_child(*column);
-  return scroller;
-}
-
 /// The width a column is meant to have, or what its text needs where the desktop's text is very large.
 int atLeast(int width, const Gtk::Widget& column) {
   return std::max(width, widthRequest(column).minimum);
@@ -31,7 +23,8 @@ int atLeast(int width, const Gtk::Widget& column) {
 ConsoleColumns::ConsoleColumns(WorkspaceStore& store, Preferences& preferences)
     : sidebar_(*Gtk::make_managed<SidebarView>(store)),
       detail_(*Gtk::make_managed<DetailView>(store, preferences)),
-      inspector_(*scrolling(Gtk::make_managed<InspectorPanel>(store))) {
+      // It does not scroll by itself, and a window may be lower than it.
+      inspector_(*verticalScroller(Gtk::make_managed<InspectorPanel>(store))) {
   add_css_class("console-columns");
   for (auto* column : {&sidebar_, &detail_, &inspector_})
     append(*column);

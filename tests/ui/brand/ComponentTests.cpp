@@ -45,8 +45,8 @@ TEST(BrandMark, IsASquareLightTileOfExactlyItsSize) {
 
 /// A pill on screen, with the colours that it is drawn in.
 struct DrawnPill {
-  explicit DrawnPill(AccentTone tone, bool isProminent)
-      : pill(*Gtk::make_managed<StatusPill>("Live", tone, isProminent)),
+  DrawnPill(AccentTone tone, PillStyle style)
+      : pill(*Gtk::make_managed<StatusPill>("Live", tone, style)),
         stage(*hstack(0, {&pill, hspacer()}), 200) {}
   Color fill() { return stage.pixel(pill.get_width() / 2, 3); }
   Gdk::RGBA textColor() { return labelled(pill, "Live")->get_style_context()->get_color(); }
@@ -56,13 +56,13 @@ struct DrawnPill {
 };
 
 TEST(StatusPill, AProminentInkPillIsAWhiteCapsuleWithNearBlackText) {
-  DrawnPill drawn(AccentTone::ink, true);
+  DrawnPill drawn(AccentTone::ink, PillStyle::prominent);
   EXPECT_THAT(drawn.fill(), IsColor(Color::white()));
   EXPECT_LT(drawn.textColor().get_red(), 0.02);
 }
 
 TEST(StatusPill, APlainInkPillIsAFaintWhiteTintWithWhiteText) {
-  DrawnPill drawn(AccentTone::ink, false);
+  DrawnPill drawn(AccentTone::ink, PillStyle::plain);
   EXPECT_NEAR(drawn.fill().red, 0.147, 0.01) << "white at 0.14 over the background";
   EXPECT_EQ(drawn.textColor().get_red(), 1.0F);
 }
@@ -79,11 +79,11 @@ TEST(StatusPill, PadsItsTitleByNineAndFivePoints) {
 }
 
 TEST(StatusPill, ShowsAnotherStateInPlace) {
-  StatusPill pill("Needs review", AccentTone::gold, true);
+  StatusPill pill("Needs review", AccentTone::gold, PillStyle::prominent);
   pill.show("Approved", AccentTone::green);
   EXPECT_TRUE(pill.has_css_class("tone-green"));
   EXPECT_FALSE(pill.has_css_class("tone-gold"));
-  EXPECT_FALSE(pill.has_css_class("prominent"));
+  EXPECT_FALSE(pill.has_css_class("pill-prominent"));
 }
 
 TEST(SectionHeader, ShowsItsEyebrowInUpperCase) {

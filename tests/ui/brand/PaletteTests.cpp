@@ -1,6 +1,6 @@
 #include "brand/QuorvelBrand.h"
 #include "brand/buttons.h"
-#include "brand/card.h"
+#include "brand/surfaces.h"
 #include "layout/stacks.h"
 #include "support/TestWindow.h"
 

@@ -24,6 +24,12 @@ TEST(StyleSheet, EveryColourNameItUsesIsDefined) {
     EXPECT_TRUE(defined.contains(name)) << '@' << name;
 }
 
+TEST(StyleSheet, NoColourAndNoRadiusOfThePaletteIsSpelledOutInAHandWrittenRule) {
+  const std::string css = handWrittenRules();
+  EXPECT_FALSE(std::regex_search(css, std::regex("rgba?\\(|hsla?\\(|#[0-9a-fA-F]{3}")));
+  EXPECT_FALSE(std::regex_search(css, std::regex("radius: *10px")));
+}
+
 TEST(StyleSheet, IsReadWithoutAComplaint) {
   const auto provider = Gtk::CssProvider::create();
   std::vector<std::string> complaints;

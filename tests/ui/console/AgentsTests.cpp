@@ -133,7 +133,7 @@ TEST_F(AgentsTest, ThePillShowsTheLoadInTheAgentsOwnToneWhateverTheLoad) {
     auto* pill = all<StatusPill>(grid()).front();
     EXPECT_THAT(texts(*pill), ElementsAre(std::string(rawValue(load))));
     EXPECT_TRUE(pill->has_css_class("tone-clay"));
-    EXPECT_FALSE(pill->has_css_class("prominent"));
+    EXPECT_FALSE(pill->has_css_class("pill-prominent"));
   }
 }
 

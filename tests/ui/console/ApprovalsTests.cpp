@@ -56,7 +56,7 @@ TEST_F(ApprovalsTest, ShowsEveryGateOfTheSampleWorkspaceWithItsChecksInOrder) {
 }
 
 TEST_F(ApprovalsTest, AWaitingGateShowsAProminentGoldPillAndTwoEnabledButtons) {
-  EXPECT_TRUE(statePill(replies).has_css_class("prominent"));
+  EXPECT_TRUE(statePill(replies).has_css_class("pill-prominent"));
   EXPECT_TRUE(statePill(replies).has_css_class("tone-gold"));
   EXPECT_TRUE(approveButton(replies).is_sensitive());
   EXPECT_TRUE(pauseButton(replies).is_sensitive());
@@ -86,7 +86,7 @@ TEST_F(ApprovalsTest, ADecidedGateShowsAQuietPillAndTwoDisabledButtonsThatDoNoth
   click(approveButton(replies));
   draw();
   for (const auto& [title, tone] : {std::pair{replies, "tone-green"}, std::pair{callbacks, "tone-slate"}}) {
-    EXPECT_FALSE(statePill(title).has_css_class("prominent"));
+    EXPECT_FALSE(statePill(title).has_css_class("pill-prominent"));
     EXPECT_TRUE(statePill(title).has_css_class(tone));
     EXPECT_TRUE(approveButton(title).get_mapped()) << "disabled, not hidden";
     EXPECT_FALSE(approveButton(title).is_sensitive());
@@ -137,7 +137,7 @@ TEST_F(ApprovalsTest, ChangedStepsReplaceTheChips) {
 TEST_F(ApprovalsTest, TheRiskPillIsClayWhateverItsText) {
   for (const auto& title : {replies, adSpend, callbacks}) {
     EXPECT_TRUE(riskPill(title).has_css_class("tone-clay"));
-    EXPECT_FALSE(riskPill(title).has_css_class("prominent"));
+    EXPECT_FALSE(riskPill(title).has_css_class("pill-prominent"));
   }
 }
 

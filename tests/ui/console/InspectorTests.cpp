@@ -85,6 +85,22 @@ TEST_F(InspectorTest, WithNoApprovalAndNoEntryOnlyTheHeadingsRemain) {
   const auto all = shown();
   EXPECT_THAT(std::vector(std::ranges::find(all, "Connected apps"), all.end()),
               ElementsAre("Connected apps", "Priority", "Recent activity"));
+  const auto priority = bounds(*labelled(inspector_, "Priority"));
+  EXPECT_EQ(bounds(*labelled(inspector_, "Recent activity")).get_y(),
+            priority.get_y() + priority.get_height() + 18)
+      << "no gap is kept for the cards";
+}
+
+TEST(EmptyInspector, AListThatWasEmptyFromTheStartAppearsWhenItIsNoLonger) {
+  WorkspaceStore store;
+  const auto approvals = *store.approvals;
+  store.approvals = {};
+  InspectorPanel inspector{store};
+  TestWindow stage{inspector, 320};
+  store.approvals = approvals;
+  drawFrame(inspector);
+  EXPECT_EQ(all<StatusPill>(inspector).size(), 3U);
+  EXPECT_NE(labelled(inspector, approvals.front().title), nullptr);
 }
 
 TEST_F(InspectorTest, FiguresAreShownAtNoughtToo) {

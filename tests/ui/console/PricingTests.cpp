@@ -113,9 +113,9 @@ TEST_F(PricingTest, WhicheverPlanIsFeaturedItsButtonReadsChooseStarter) {
 
 TEST_F(PricingTest, TheFeaturedPlansButtonIsFilledAndTheOthersAreBordered) {
   const auto buttons = shownButtons();
-  EXPECT_TRUE(buttons[1]->has_css_class("prominent"));
+  EXPECT_TRUE(buttons[1]->has_css_class("button-prominent"));
   for (const std::size_t i : {0, 2, 3})
-    EXPECT_TRUE(buttons[i]->has_css_class("bordered")) << i;
+    EXPECT_TRUE(buttons[i]->has_css_class("button-bordered")) << i;
 }
 
 TEST_F(PricingTest, PressingAButtonDoesNothingAtAll) {

@@ -129,7 +129,7 @@ TEST_F(RequestsTest, TheBarShowsTheProgressInTheToneOfTheStatusAndThePillIsPlain
   EXPECT_TRUE(bar->has_css_class("tone-gold"));
   const auto* pill = all<StatusPill>(card).at(0);
   EXPECT_TRUE(pill->has_css_class("tone-gold"));
-  EXPECT_FALSE(pill->has_css_class("prominent"));
+  EXPECT_FALSE(pill->has_css_class("pill-prominent"));
 }
 
 TEST_F(RequestsTest, AChangedRequestIsShownOnTheSameWidgets) {

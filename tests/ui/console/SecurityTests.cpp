@@ -152,7 +152,7 @@ TEST_F(SecurityTest, AnApprovedApprovalGetsTheCheckMarkAndThePillOfItsState) {
   auto* pill = all<StatusPill>(profile()).front();
   EXPECT_THAT(texts(*pill), ElementsAre("Approved"));
   EXPECT_TRUE(pill->has_css_class("tone-green"));
-  EXPECT_FALSE(pill->has_css_class("prominent"));
+  EXPECT_FALSE(pill->has_css_class("pill-prominent"));
 }
 
 TEST_F(SecurityTest, APausedApprovalKeepsTheLock) {
@@ -172,6 +172,20 @@ TEST_F(SecurityTest, WithAnEmptyListTheCardShowsOnlyItsHeading) {
   store_.approvals = fresh;
   drawFrame(view_);
   EXPECT_EQ(all<StatusPill>(profile()).size(), fresh.size());
+}
+
+TEST(EmptySecurity, AListThatWasEmptyFromTheStartAppearsWhenItIsNoLonger) {
+  TemporaryFolder folder;
+  Preferences preferences(folder.path / "preferences.ini");
+  WorkspaceStore store;
+  const auto approvals = *store.approvals;
+  store.approvals = {};
+  SecurityView view{store, preferences};
+  TestWindow stage{view, 852};
+  store.approvals = approvals;
+  drawFrame(view);
+  EXPECT_NE(labelled(view, approvals.front().title), nullptr);
+  EXPECT_EQ(all<StatusPill>(view).size(), approvals.size());
 }
 
 TEST_F(SecurityTest, EverySwitchIsNamedByTheTitleOfItsRow) {

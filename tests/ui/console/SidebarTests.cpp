@@ -150,7 +150,11 @@ TEST_F(SidebarTest, WithNoAgentTheCaptionStandsAlone) {
   store_.agents = {};
   draw();
   EXPECT_THAT(agentTexts(), ElementsAre());
-  EXPECT_NE(labelled(sidebar_, "Active agents"), nullptr);
+  auto* caption = labelled(sidebar_, "Active agents");
+  ASSERT_NE(caption, nullptr);
+  auto* card = labelled(sidebar_, "LIVE MONITOR")->get_parent()->get_parent()->get_parent();
+  EXPECT_EQ(bounds(*card).get_y(), bounds(*caption).get_y() + caption->get_height() + 22)
+      << "no gap is kept for the rows";
 }
 
 TEST_F(SidebarTest, AnAgentsRowFollowsItsLoadInPlace) {
