@@ -5,6 +5,7 @@
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
 #include "client/QuorvelWebView.h"
+#include "client/WarningBar.h"
 #include "layout/Frame.h"
 #include "observation/observe.h"
 
@@ -41,18 +42,20 @@ Gtk::Widget* pageArea(DesktopBrowserModel& browser, Gtk::Spinner* spinner) {
 } // namespace
 
 ContentView::ContentView(DesktopBrowserModel& browser)
-    : HStack(0), browser_(browser), spinner_(loadingSpinner()) {
+    : HStack(0), browser_(browser), spinner_(loadingSpinner()), warning_(Gtk::make_managed<WarningBar>()) {
   add_css_class("client-window");
   set_size_request(minimumWidth, minimumHeight);
   auto* sidebar =
       Gtk::make_managed<Frame>(Frame::Size{.width = 306}, *Gtk::make_managed<DesktopClientSidebar>(browser));
   auto* line = Gtk::make_managed<Gtk::Separator>(Gtk::Orientation::VERTICAL);
-  auto* page = vstack(0, {Gtk::make_managed<DesktopClientToolbar>(browser), pageArea(browser, spinner_)});
+  auto* page =
+      vstack(0, {Gtk::make_managed<DesktopClientToolbar>(browser), warning_, pageArea(browser, spinner_)});
   add({sidebar, tall(line), page});
   observe(browser, *this, &ContentView::refresh);
 }
 
 void ContentView::refresh() {
+  warning_->show(*browser_.warning);
   spinner_->set_visible(browser_.isLoading);
   spinner_->set_spinning(browser_.isLoading);
 }

@@ -7,6 +7,7 @@
 namespace quorvel {
 
 class DesktopBrowserModel;
+class WarningBar;
 
 /// The content of the client's window: the sidebar, and the toolbar above the page. It holds no state;
 /// whatever it shows, it reads from the model. Making or dropping it never touches the page.
@@ -24,6 +25,7 @@ class ContentView : public HStack {
 
   DesktopBrowserModel& browser_;
   Gtk::Spinner* spinner_;
+  WarningBar* warning_;
 };
 
 } // namespace quorvel

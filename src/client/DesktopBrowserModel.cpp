@@ -16,7 +16,8 @@ DesktopBrowserModel::DesktopBrowserModel(Surroundings surroundings)
 WebView::Owner DesktopBrowserModel::viewOwner() {
   return {.onChange = [this] { updateState(); },
           .openInSystem = openInSystem_,
-          .openWindow = [this](const std::string& address) { load(address); }};
+          .openWindow = [this](const std::string& address) { load(address); },
+          .onUnconfined = [this](const std::string& text) { warning = text; }};
 }
 
 void DesktopBrowserModel::load(QuorvelRoute route) {

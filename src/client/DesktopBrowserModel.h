@@ -37,6 +37,8 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   /// The address last asked for or last seen in the view.
   Published<std::string> currentURLString{*this, url(QuorvelRoute::agent)};
   Published<std::string> title{*this, "Quorvel"};
+  /// What the owner has to know of the page's safety; empty where all is well.
+  Published<std::string> warning{*this, ""};
 
   void load(QuorvelRoute route);
   void load(const std::string& address);

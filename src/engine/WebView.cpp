@@ -2,6 +2,7 @@
 
 #include "engine/LoadWatchdog.h"
 #include "engine/NavigationPolicy.h"
+#include "engine/PageSandbox.h"
 #include "engine/WebSession.h"
 #include "engine/makeView.h"
 
@@ -21,7 +22,7 @@ class WebView::Engine {
  public:
   Engine(const WebFolders& folders, TimerFunction startTimer, Owner owner)
       : owner_(std::move(owner)), session_(folders), view_(makeView(session_.get())),
-        watchdog_(view(), std::move(startTimer)) {
+        sandbox_(owner_.onUnconfined), watchdog_(view(), std::move(startTimer)) {
     watchState();
     watchNavigation();
   }
@@ -51,6 +52,7 @@ class WebView::Engine {
   WebSession session_;
   GObjectPointer<WebKitWebView> view_;
   std::string requested_; // the address of the last `load()`
+  PageSandbox sandbox_;
   LoadWatchdog watchdog_;
 };
 
@@ -61,6 +63,9 @@ void WebView::Engine::watchState() {
     g_signal_connect_swapped(view(), signal, G_CALLBACK(onState), this);
   g_signal_connect_swapped(webkit_web_view_get_back_forward_list(view()), "changed", G_CALLBACK(onState),
                            this);
+  // The first word of a page: its process is there, and nothing of it is on the screen yet.
+  const auto onPage = +[](Engine* self) { self->sandbox_.look(); };
+  g_signal_connect_swapped(view(), "load-changed", G_CALLBACK(onPage), this);
   const auto onFailure = +[](Engine* self) -> gboolean {
     self->owner_.onChange();
     return FALSE; // the engine shows its own page

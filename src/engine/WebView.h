@@ -27,6 +27,8 @@ class WebView {
     std::function<void(const std::string& address)> openInSystem = [](const std::string&) {};
     /// The page asks for a window. There is none but this one's.
     std::function<void(const std::string& address)> openWindow = [](const std::string&) {};
+    /// Pages are not confined, for reasons given in a sentence or two; said once at the most.
+    std::function<void(const std::string& warning)> onUnconfined = [](const std::string&) {};
   };
 
   WebView(const WebFolders& folders, TimerFunction startTimer, Owner owner);

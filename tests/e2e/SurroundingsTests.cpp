@@ -96,6 +96,60 @@ INSTANTIATE_TEST_SUITE_P(
                     NoBus{"NoAccessibilityBus", "AT_SPI_BUS_ADDRESS", "unix:path=/nonexistent"}),
     [](const auto& noBus) { return noBus.param.name; });
 
+/// What has the engine run pages without a sandbox.
+struct Misled {
+  std::string name;
+  Environment environment;
+  std::string file;
+};
+
+void PrintTo(const Misled& misled, std::ostream* out) {
+  *out << misled.name;
+}
+
+class UnconfinedTest : public SurroundingsTest, public testing::WithParamInterface<Misled> {
+ protected:
+  std::vector<std::string> warnings() {
+    auto texts = client().namesIn("Quorvel", ATSPI_ROLE_LABEL);
+    std::erase_if(texts, [](const auto& text) { return !text.starts_with("Pages are not confined"); });
+    return texts;
+  }
+  Arguments through() const {
+    return GetParam().file.empty() ? Arguments()
+                                   : lacking("no-sandbox", {stage.folder() / "tmp", GetParam().file});
+  }
+};
+
+TEST_P(UnconfinedTest, PagesAreWarnedOfInTheWindowAndOnTheErrorOutput) {
+  mayLack = {"a user namespace", "a mount namespace", "a process namespace", "a filter of system calls"};
+  start(GetParam().environment, through());
+  EXPECT_TRUE(
+      eventually([&] { return warnings(); },
+                 ElementsAre(AllOf(HasSubstr("a mount namespace, a process namespace and a filter of system "
+                                             "calls"),
+                                   HasSubstr(GetParam().name)))));
+  EXPECT_THAT(client().said(), HasSubstr("Quorvel: " + warnings().front()));
+  client().press("Pricing");
+  waitForPage("/pricing.html");
+  EXPECT_THAT(warnings(), SizeIs(1)) << "it goes on being true";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Misled, UnconfinedTest,
+    testing::Values(
+        Misled{"WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS",
+               {{"WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS", "1"}},
+               ""},
+        Misled{"/.flatpak-info", {}, "/.flatpak-info"}, Misled{"container", {}, "/run/.containerenv"},
+        Misled{"SNAP", {{"SNAP", "/snap/other/1"}, {"SNAP_NAME", "other"}, {"SNAP_REVISION", "1"}}, ""}),
+    [](const auto& misled) { return std::to_string(misled.index); });
+
+TEST_F(SurroundingsTest, ConfinedPagesAreNotWarnedOf) {
+  start();
+  EXPECT_THAT(client().said(), Not(HasSubstr("confined")));
+  EXPECT_THAT(client().namesIn("Quorvel", ATSPI_ROLE_LABEL), Not(Contains(HasSubstr("confined"))));
+}
+
 TEST_F(SurroundingsTest, WithoutAHomeFolderThePageShowsAndAnswers) {
   const std::string nowhere = "/proc/nowhere";
   start({{"HOME", nowhere},

@@ -10,6 +10,7 @@
 
 namespace quorvel::e2e {
 
+using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -19,6 +20,7 @@ using testing::Gt;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::SizeIs;
 
 inline const std::string origin = "https://app.quorvel.example";
 inline const std::string agentPage = "/agent.html?source=mac_app";

@@ -6,6 +6,7 @@
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
 #include "client/QuorvelWebView.h"
+#include "client/WarningBar.h"
 #include "support/TextChecks.h"
 #include "support/TextScale.h"
 #include "ui/client/ModelTest.h"
@@ -106,6 +107,25 @@ TEST_F(ContentViewTest, AtTheLeastWidthTheSidebarKeepsItsWidthAndThePageTakesThe
   EXPECT_THAT(bounds(the<QuorvelWebView>()),
               IsRectangle(307, toolbar.get_height(), 873, 760 - toolbar.get_height()));
   EXPECT_THAT(screen->pixel(306, 400), IsColor(Color{0.122, 0.123, 0.124})) << "the line on the background";
+}
+
+TEST_F(ContentViewTest, AWarningStandsAboveThePageAndIsNeverCut) {
+  std::string sentence = "Pages are not confined";
+  for (int i = 0; i < 40; ++i)
+    sentence += ", and there is more";
+  model->warning = sentence;
+  tests::drawFrame(*view);
+  const auto warning = bounds(the<WarningBar>()), page = bounds(the<QuorvelWebView>());
+  const auto toolbar = bounds(the<DesktopClientToolbar>());
+  EXPECT_THAT(warning, IsRectangle(307, toolbar.get_height(), 873, warning.get_height()));
+  EXPECT_GT(warning.get_height(), 30);
+  EXPECT_THAT(page, IsRectangle(307, warning.get_y() + warning.get_height(), 873, 760 - page.get_y()));
+  EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
+  EXPECT_TRUE(labelled(*view, *model->warning)->get_mapped());
+
+  model->warning = "";
+  tests::drawFrame(*view);
+  EXPECT_FALSE(the<WarningBar>().get_mapped());
 }
 
 TEST_F(ContentViewTest, NothingFitsIntoLessThanTheLeastSize) {
