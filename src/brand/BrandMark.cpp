@@ -1,7 +1,6 @@
 #include "brand/BrandMark.h"
 
 #include "brand/QuorvelBrand.h"
-#include "brand/Typography.h"
 
 #include <algorithm>
 #include <gtk/gtk.h>

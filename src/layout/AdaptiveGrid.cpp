@@ -24,7 +24,7 @@ int AdaptiveGrid::leastColumnWidth() const {
 
 /// Calls `placeRow(cells, columns, y, height)` for every row and returns the height of all rows together.
 template <class PlaceRow>
-int AdaptiveGrid::forEachRow(int width, PlaceRow&& placeRow) const {
+int AdaptiveGrid::forEachRow(int width, const PlaceRow& placeRow) const {
   const auto cells = visibleChildren();
   const auto perRow = static_cast<std::size_t>(columnCount(width));
   std::vector<Column> columns;

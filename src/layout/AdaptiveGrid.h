@@ -26,7 +26,7 @@ class AdaptiveGrid : public Container {
 
  private:
   template <class PlaceRow>
-  int forEachRow(int width, PlaceRow&& placeRow) const;
+  int forEachRow(int width, const PlaceRow& placeRow) const;
   int leastColumnWidth() const;
 
   int minimumColumnWidth_;

@@ -23,15 +23,15 @@ class FirstThatFits : public Container {
   explicit FirstThatFits(std::vector<Form> forms);
 
   /// Which form a container of this width shows, counted from 0.
-  std::size_t formFor(int width) const;
+  std::size_t formFor(int available) const;
 
  protected:
   void measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
                      int& minimumBaseline, int& naturalBaseline) const override;
-  void size_allocate_vfunc(int width, int height, int baseline) override;
+  void size_allocate_vfunc(int available, int height, int baseline) override;
 
  private:
-  void place(const Form& form, int width, int height);
+  void place(const Form& form, int available, int height);
 
   std::vector<Form> forms_;
 };

@@ -181,7 +181,7 @@ void LazyGrid::keepInPlace(const RowHeights& before) {
 
 /// Calls `visit(cells, line)` for every line that is there as a whole.
 template <class Visit>
-void LazyGrid::forEachLine(std::size_t perLine, Visit&& visit) const {
+void LazyGrid::forEachLine(std::size_t perLine, const Visit& visit) const {
   const auto cells = visibleChildren();
   const auto there = std::min(cells.size(), places_.size());
   for (std::size_t first = 0, end = 0; first < there; first = end) {

@@ -54,7 +54,7 @@ class LazyGrid : public Container {
   int lineHeight(const std::vector<Gtk::Widget*>& cells, int width, std::size_t perLine) const;
   void measureLines(RowHeights& heights, int width, std::size_t perLine) const;
   template <class Visit>
-  void forEachLine(std::size_t perLine, Visit&& visit) const;
+  void forEachLine(std::size_t perLine, const Visit& visit) const;
 
   Form form_;
   RowHeights heights_; ///< of the lines

@@ -1,6 +1,7 @@
 #include "support/RealInput.h"
 
 #include <gdk/x11/gdkx.h>
+#include <gdkmm/surface.h>
 #include <glibmm/spawn.h>
 #include <gtkmm/native.h>
 #include <stdexcept>

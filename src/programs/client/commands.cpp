@@ -2,7 +2,6 @@
 
 #include "client/DesktopBrowserModel.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace quorvel {

@@ -10,7 +10,6 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
-#include <stdexcept>
 
 namespace quorvel::e2e {
 namespace {

@@ -4,9 +4,7 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <sstream>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace quorvel::e2e {
 namespace {
@@ -32,7 +30,7 @@ std::pair<std::unique_ptr<ChildProcess>, std::string> startServer(const Argument
   Arguments quietly = {"sh", "-c", "exec \"$0\" \"$@\" 3>&1 >/dev/null 2>&1"};
   quietly.insert(quietly.end(), command.begin(), command.end());
   auto server = std::make_unique<ChildProcess>(quietly, Environment{}, output);
-  if (!eventually([&] { return linesOf(output).size() > 0; }))
+  if (!eventually([&] { return !linesOf(output).empty(); }))
     throw std::runtime_error(command.front() + " did not start");
   return {std::move(server), linesOf(output).front()};
 }
