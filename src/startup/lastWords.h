@@ -2,9 +2,10 @@
 
 namespace quorvel {
 
-/// Has a fatal error of the toolkit or of the web engine end the program with status 1 and one sentence that
-/// says what is missing, in place of a crash. The engine raises one where its sandbox cannot be set up,
-/// without which it shows no page. Call it once, before the toolkit starts.
-void explainEngineFailure();
+/// Has a fatal error of the toolkit or of the web engine say in a sentence what has happened, before it ends
+/// the program as it would anyway: by a signal, so that a core dump can be had. The engine raises one where
+/// it cannot start a process, or where that process ends at once; it leaves nobody a way to go on. Call it
+/// once, before the toolkit starts.
+void explainFatalErrors();
 
 } // namespace quorvel

@@ -1,5 +1,6 @@
 #include "e2e/stage/ClientTest.h"
 
+#include <csignal>
 #include <fstream>
 
 namespace quorvel::e2e {
@@ -85,6 +86,19 @@ TEST_F(LoadingTest, ADownloadNeverReplacesAFileThatIsThere) {
   std::string text;
   std::getline(std::ifstream(folder / "brief.txt"), text);
   EXPECT_EQ(text, "mine");
+}
+
+TEST_F(LoadingTest, APageWhoseProcessDiesWhileItStartsEndsTheProgramWithWordsThatSaySo) {
+  launch();
+  EXPECT_TRUE(eventually([&] {
+    const auto starting = descendants(client().process().id(), "WebKitWebProces");
+    std::ranges::for_each(starting, [](pid_t id) { ::kill(id, SIGKILL); });
+    return !starting.empty();
+  }));
+  EXPECT_EQ(client().process().waitForEnd(), 128 + SIGTRAP) << "the engine's own end, with its core dump";
+  EXPECT_THAT(client().said(),
+              HasSubstr("Quorvel has to stop: a process of the web engine ended while it was starting"));
+  EXPECT_THAT(client().said(), Not(HasSubstr("It needs bubblewrap")));
 }
 
 TEST_F(LoadingTest, ReloadBringsBackAPageWhoseProcessHasDied) {

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 int main(int argc, char** argv) {
-  quorvel::explainEngineFailure();
+  quorvel::explainFatalErrors();
   if (!quorvel::startToolkit({quorvel::QuorvelApp::identifier, "Quorvel"}))
     return EXIT_FAILURE;
   return Glib::make_refptr_for_instance(new quorvel::QuorvelApp)->run(argc, argv);

@@ -1,5 +1,6 @@
 #include "startup/lastWords.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <glib.h>
 #include <gtest/gtest.h>
@@ -7,20 +8,41 @@
 namespace quorvel {
 namespace {
 
-TEST(EngineFailureDeathTest, AnEngineThatCannotStartEndsTheProgramWithOneSentence) {
-  const auto fail = [] {
-    explainEngineFailure();
-    g_error("Failed to fully launch dbus-proxy");
-  };
-  EXPECT_EXIT(
-      fail(), ::testing::ExitedWithCode(1),
-      "^Quorvel has to stop: the web engine cannot start here \\(Failed to fully launch dbus-proxy\\)\\. "
-      "It needs bubblewrap, and a system that lets a program make namespaces\\.\n$");
+void fail(const char* message) {
+  explainFatalErrors();
+  g_error("%s", message);
 }
 
-TEST(EngineFailureDeathTest, LesserMessagesEndNothing) {
+/// As it would without us, leaving a core dump where the system keeps any.
+const ::testing::KilledBySignal asEver(SIGTRAP);
+
+TEST(LastWordsDeathTest, AnEngineThatCannotStartItsProcessesIsExplained) {
+  const auto* const words =
+      "^Quorvel has to stop: the web engine cannot start its processes here \\(.+\\)\\. "
+      "It needs bubblewrap, and a system that lets a program make namespaces\\.\n$";
+  for (const auto* message :
+       {"Failed to fully launch dbus-proxy: Child process exited with code 1",
+        "Failed to start dbus proxy: No such file", "Unable to spawn a new child process: No"})
+    EXPECT_EXIT(fail(message), asEver, words) << message;
+}
+
+TEST(LastWordsDeathTest, AProcessThatEndsWhileItStartsIsNotCalledALackOfBubblewrap) {
+  const auto* const words =
+      "^Quorvel has to stop: a process of the web engine ended while it was starting \\(.+\\)\\. "
+      "Where that happens every time, the system does not let bubblewrap make the sandbox\\.\n$";
+  for (const auto* message :
+       {"readPIDFromPeer: Unexpected short read from PID socket.", "Failed to read pid from child process"})
+    EXPECT_EXIT(fail(message), asEver, words) << message;
+}
+
+TEST(LastWordsDeathTest, AnyOtherFatalErrorSpeaksForItself) {
+  EXPECT_EXIT(fail("The display has gone"), asEver,
+              "^Quorvel has to stop: a fatal error occurred \\(The display has gone\\)\\.\n$");
+}
+
+TEST(LastWordsDeathTest, LesserMessagesEndNothing) {
   const auto warn = [] {
-    explainEngineFailure();
+    explainFatalErrors();
     g_warning("only a warning");
     std::_Exit(0);
   };
