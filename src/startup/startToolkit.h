@@ -1,12 +1,8 @@
 #pragma once
 
-namespace quorvel {
+#include "startup/ProgramName.h"
 
-/// How a program is known: to the desktop by its application id, to people by its name.
-struct ProgramName {
-  const char* identifier;
-  const char* name;
-};
+namespace quorvel {
 
 /// What every program of this project does first: tells the toolkit about the machine's graphics and the
 /// desktop whose windows these are, and starts the toolkit. False, with one sentence on the error output,
