@@ -1,5 +1,7 @@
 #include "engine/makeView.h"
 
+#include "engine/historyKeys.h"
+
 #include <string>
 
 namespace quorvel {
@@ -45,6 +47,7 @@ GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
       g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session, "settings", settings.get(), nullptr);
   allowGesturesInAWindow(WEBKIT_WEB_VIEW(view));
   keepTabMoving(WEBKIT_WEB_VIEW(view));
+  goThroughHistoryByKey(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }
 

@@ -60,6 +60,15 @@ TEST_F(SecondaryWindowTest, ControlQQuitsFromEveryWindow) {
   }
 }
 
+TEST_F(SecondaryWindowTest, ClosingTheMainWindowEndsTheProgramWhateverElseIsOpen) {
+  for (const auto* window : {settings, shortcuts, about}) {
+    start();
+    open(window);
+    client().press("Close");
+    EXPECT_EQ(client().process().waitForEnd(), 0) << window;
+  }
+}
+
 TEST_F(SecondaryWindowTest, ASecondStartBringsBackTheMainWindowAndNoOther) {
   start();
   for (const auto* window : {settings, shortcuts, about}) {

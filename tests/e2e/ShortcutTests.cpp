@@ -71,7 +71,7 @@ TEST_F(ShortcutTest, ControlShiftOOpensThePageInTheBrowser) {
 
 TEST_F(ShortcutTest, EveryOtherControlKeyReachesThePage) {
   startInField();
-  const std::string keys = "abcdefghijklmopstuvwxyz0123456789";
+  const std::string keys = "abcdefghijklmopstuvxyz0123456789";
   for (const char key : keys) {
     client().type(std::string("ctrl+") + key);
     EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains(std::string("key=") + key)));

@@ -3,6 +3,8 @@
 namespace quorvel::e2e {
 namespace {
 
+namespace fs = std::filesystem;
+
 class WindowTest : public ClientTest {};
 
 TEST_F(WindowTest, ResizingChangesThePageAndNeverReloadsIt) {
@@ -22,6 +24,23 @@ TEST_F(WindowTest, CannotBecomeSmallerThanItsContentsMinimum) {
   EXPECT_EQ(minimum.width, 1180 + Client::border);
   EXPECT_GE(minimum.height, 760);
   EXPECT_LE(minimum.height, 760 + Client::border + 50) << "the header bar stays slim";
+}
+
+TEST_F(WindowTest, ItsSizeIsRememberedInTheStateFolderAndNotAmongThePreferences) {
+  start();
+  client().resize({1500, 940});
+  EXPECT_TRUE(eventually([&] { return client().size(); }, Eq(Size{1500, 940})));
+  quit();
+  EXPECT_EQ(fs::status(stage.state() / "quorvel").permissions(), fs::perms::owner_all);
+  EXPECT_FALSE(fs::exists(stage.config() / "quorvel"));
+  start();
+  EXPECT_TRUE(eventually([&] { return client().size(); }, Eq(Size{1500, 940})));
+  client().resize({1300, 900});
+  EXPECT_TRUE(eventually([&] { return client().size(); }, Eq(Size{1300, 900})));
+  client().press("Close");
+  EXPECT_EQ(client().process().waitForEnd(), 0);
+  start();
+  EXPECT_TRUE(eventually([&] { return client().size(); }, Eq(Size{1300, 900})));
 }
 
 class FocusTest : public ClientTest {

@@ -3,6 +3,7 @@
 #include "client/ContentView.h"
 #include "programs/client/CommandMenu.h"
 #include "programs/client/PrimaryMenu.h"
+#include "programs/client/habits.h"
 
 #include <gtkmm/headerbar.h>
 
@@ -20,6 +21,18 @@ MainWindow::MainWindow(DesktopBrowserModel& browser, Gtk::Application& applicati
   set_child(*Gtk::make_managed<ContentView>(browser));
   // A long address would otherwise make the window as wide as it would like to be.
   set_default_size(ContentView::minimumWidth, -1);
+  addBrowsingHabits(*this);
+}
+
+WindowSize MainWindow::size() const {
+  WindowSize size{0, 0, property_maximized()};
+  get_default_size(size.width, size.height);
+  return size;
+}
+
+void MainWindow::setSize(const WindowSize& size) {
+  set_default_size(size.width, size.height);
+  property_maximized() = size.isMaximized;
 }
 
 } // namespace quorvel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "programs/client/WindowSize.h"
 #include "programs/client/commands.h"
 
 #include <gtkmm/applicationwindow.h>
@@ -11,6 +12,9 @@ namespace quorvel {
 class MainWindow : public Gtk::ApplicationWindow {
  public:
   MainWindow(DesktopBrowserModel& browser, Gtk::Application& application, const Commands& commands);
+
+  WindowSize size() const;
+  void setSize(const WindowSize& size);
 };
 
 } // namespace quorvel

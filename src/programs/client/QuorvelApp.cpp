@@ -6,6 +6,7 @@
 #include "programs/client/MainWindow.h"
 #include "programs/client/SecondaryWindow.h"
 #include "programs/client/ShortcutsView.h"
+#include "programs/client/habits.h"
 #include "settings/SettingsView.h"
 
 #include <gtkmm/aboutdialog.h>
@@ -38,11 +39,27 @@ void QuorvelApp::on_startup() {
 void QuorvelApp::on_activate() {
   if (!window_) {
     installStyle();
-    window_ = std::make_unique<MainWindow>(*browser_, *this, *commands_);
-    add_window(*window_);
-    window_->signal_hide().connect([this] { quit(); });
+    makeWindow();
   }
   appDelegate_.applicationDidFinishLaunching();
+}
+
+void QuorvelApp::makeWindow() {
+  window_ = std::make_unique<MainWindow>(*browser_, *this, *commands_);
+  if (const auto size = readWindowSize(windowSizeFile()))
+    window_->setSize(*size);
+  add_window(*window_);
+  const auto endWithWindow = [this] {
+    end();
+    return false;
+  };
+  window_->signal_close_request().connect(endWithWindow, false);
+}
+
+void QuorvelApp::end() {
+  if (window_)
+    writeWindowSize(windowSizeFile(), window_->size());
+  quit();
 }
 
 void QuorvelApp::makeCommands() {
@@ -55,8 +72,9 @@ void QuorvelApp::makeCommands() {
       Commands::Program{.showSettings = [this] { showBeside(settings_, [this] { return makeSettings(); }); },
                         .showShortcuts = [this, makeShortcuts] { showBeside(shortcuts_, makeShortcuts); },
                         .showAbout = [this] { showBeside(about_, makeAbout); },
-                        .quit = [this] { quit(); }});
+                        .quit = [this] { end(); }});
   commands_->addTo(*this);
+  addClosingKey(*this);
 }
 
 std::unique_ptr<Gtk::Window> QuorvelApp::makeSettings() {
@@ -66,6 +84,8 @@ std::unique_ptr<Gtk::Window> QuorvelApp::makeSettings() {
 
 void QuorvelApp::showBeside(std::unique_ptr<Gtk::Window>& window,
                             const std::function<std::unique_ptr<Gtk::Window>()>& make) {
+  if (!window_)
+    activate(); // a command came over the message bus before anything else
   if (!window) {
     window = make();
     add_window(*window); // or the program's keys would be dead in it

@@ -28,6 +28,9 @@ class QuorvelApp : public Gtk::Application {
 
  private:
   void makeCommands();
+  void makeWindow();
+  /// Whatever else is open.
+  void end();
   /// Shows a window beside the main one, making it the first time it is asked for.
   void showBeside(std::unique_ptr<Gtk::Window>& window,
                   const std::function<std::unique_ptr<Gtk::Window>()>& make);

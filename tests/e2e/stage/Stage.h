@@ -27,6 +27,7 @@ class Stage {
   std::filesystem::path config() const { return folder_ / "config"; }
   std::filesystem::path data() const { return folder_ / "data"; }
   std::filesystem::path cache() const { return folder_ / "cache"; }
+  std::filesystem::path state() const { return folder_ / "state"; }
 
   /// Puts a page on the service, in front of the one it serves under that name otherwise. Each time the page
   /// comes on the screen it reports "shown=" and its path.

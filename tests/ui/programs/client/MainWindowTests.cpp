@@ -3,6 +3,7 @@
 #include "client/ContentView.h"
 #include "programs/client/CommandMenu.h"
 #include "programs/client/PrimaryMenu.h"
+#include "programs/client/habits.h"
 #include "ui/client/ModelTest.h"
 
 namespace quorvel {
@@ -19,6 +20,7 @@ class MainWindowTest : public ModelTest {
     commands.emplace(*model, Commands::Program{});
     application->register_application();
     commands->addTo(*application);
+    addClosingKey(*application);
     window = std::make_unique<MainWindow>(*model, *application, *commands);
     application->add_window(*window);
     window->present();
@@ -90,7 +92,8 @@ TEST_F(MainWindowTest, TheListedKeysAreBoundAndNothingElse) {
   EXPECT_EQ(key("app.settings"), "<Control>comma");
   EXPECT_EQ(key("app.shortcuts"), "<Control>question");
   EXPECT_EQ(key("app.quit"), "<Control>q");
-  EXPECT_THAT(application->list_action_descriptions(), SizeIs(8));
+  EXPECT_EQ(key("window.close"), "<Control>w");
+  EXPECT_THAT(application->list_action_descriptions(), SizeIs(9));
 }
 
 TEST_F(MainWindowTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlways) {
