@@ -37,6 +37,7 @@ INSTANTIATE_TEST_SUITE_P(Load, FailingLoadTest,
                          testing::Values(Failure{"Refused", "https://app.quorvel.example:444/"},
                                          Failure{"Unresolvable", "https://nowhere.quorvel.example/"},
                                          Failure{"BadCertificate", "https://untrusted.quorvel.example/"},
+                                         Failure{"OutdatedTransport", "https://outdated.quorvel.example/"},
                                          Failure{"InternalServerError", "/status?code=500"},
                                          Failure{"NoContent", "/status?code=204"},
                                          Failure{"CutOffInMidBody", "/cut-off"},
@@ -46,19 +47,33 @@ INSTANTIATE_TEST_SUITE_P(Load, FailingLoadTest,
 
 class LoadingTest : public ClientTest {
  protected:
-  void follow(const std::string& address) {
+  void follow(const std::string& address, const Environment& environment = {}) {
     stage.servePage("agent.html", linkTo(address));
-    start();
+    start(environment);
     client().clickPage();
+  }
+  void expectNoRequestToAnotherSite() {
+    client().press("Pricing");
+    waitForPage("/pricing.html");
+    for (const auto& request : stage.requests().requests())
+      EXPECT_EQ(request.host, "app.quorvel.example");
   }
 };
 
 TEST_F(LoadingTest, AnUntrustedSiteIsNeverAskedForAPage) {
   follow("https://untrusted.quorvel.example/agent.html");
-  client().press("Pricing");
+  expectNoRequestToAnotherSite();
+}
+
+TEST_F(LoadingTest, ASiteThatSpeaksNoNewerTlsThan11IsNeverAskedForAPage) {
+  follow("https://outdated.quorvel.example/pricing.html");
+  expectNoRequestToAnotherSite();
+}
+
+TEST_F(LoadingTest, WhatTheUserHasSetForTlsStays) {
+  follow("https://outdated.quorvel.example/pricing.html", {{"G_TLS_GNUTLS_PRIORITY", "NORMAL:%COMPAT"}});
   waitForPage("/pricing.html");
-  for (const auto& request : stage.requests().requests())
-    EXPECT_EQ(request.host, "app.quorvel.example");
+  EXPECT_EQ(stage.requests().requests().back().host, "outdated.quorvel.example");
 }
 
 TEST_F(LoadingTest, TheSpinnerShowsWhileAPageLoadsAndOnlyThen) {

@@ -2,6 +2,7 @@
 #include "startup/commandLine.h"
 #include "startup/lastWords.h"
 #include "startup/startToolkit.h"
+#include "startup/transport.h"
 
 #include <cstdlib>
 
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
   if (const auto status = quorvel::answerCommandLine(program, argc, argv))
     return *status;
   quorvel::explainFatalErrors();
+  quorvel::refuseOutdatedTransport();
   if (!quorvel::startToolkit(program))
     return EXIT_FAILURE;
   return Glib::make_refptr_for_instance(new quorvel::QuorvelApp)->run(argc, argv);
