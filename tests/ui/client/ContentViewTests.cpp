@@ -11,6 +11,9 @@
 #include "support/TextScale.h"
 #include "ui/client/ModelTest.h"
 
+#include <fstream>
+#include <unistd.h>
+
 namespace quorvel {
 namespace {
 
@@ -27,6 +30,13 @@ MATCHER_P4(IsRectangle, x, y, width, height, "") {
   *result_listener << arg.get_x() << ", " << arg.get_y() << ", " << arg.get_width() << " by "
                    << arg.get_height();
   return arg.get_x() == x && arg.get_y() == y && arg.get_width() == width && arg.get_height() == height;
+}
+
+/// What this process holds in memory, in MiB.
+long memory() {
+  long whole = 0, resident = 0;
+  std::ifstream("/proc/self/statm") >> whole >> resident;
+  return resident * ::sysconf(_SC_PAGESIZE) / (1024 * 1024);
 }
 
 /// The content of the client's window at its least size, on a real model.
@@ -350,6 +360,15 @@ TEST_F(ContentViewTest, AnotherPageCanLoadWhileThePageHasNoWindow) {
   show("/pricing.html");
   open();
   EXPECT_THAT(highlighted(), ElementsAre("Pricing"));
+}
+
+TEST_F(ContentViewTest, WhereNobodySwipesNoPictureIsKeptOfThePagesThatAreLeft) {
+  runScript("history.pushState(null, '', '?first')");
+  waitForAddress("/agent.html?first");
+  const auto before = memory();
+  runScript("for (let i = 0; i < 60; ++i) history.pushState(null, '', '?' + i)");
+  waitForAddress("/agent.html?59");
+  EXPECT_LT(memory() - before, 30) << "MiB; sixty pictures take 150";
 }
 
 TEST_F(ContentViewTest, ThePageIsMovedToItsNewestHost) {
