@@ -6,7 +6,6 @@
 #include "brand/text.h"
 #include "brand/tone.h"
 #include "console/RecordRows.h"
-#include "layout/AdaptiveGrid.h"
 #include "layout/Frame.h"
 
 #include <pango/pango.h>
@@ -85,7 +84,7 @@ AgentsView::AgentsView(WorkspaceStore& store) : VStack(22) {
   add({Gtk::make_managed<SectionHeader>("Agent team", "Specialists that pick up the work",
                                         "Each helper has a bounded job, a visible status, and outputs that "
                                         "wait for review when the action matters."),
-       recordRows<AdaptiveGrid>(store, allOf(store.agents), made<AgentCard>, 260, 14)});
+       lazyRecordRows(store, store.agents, {.spacing = 14, .minimumColumnWidth = 260}, made<AgentCard>)});
 }
 
 } // namespace quorvel

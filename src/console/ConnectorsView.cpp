@@ -8,7 +8,6 @@
 #include "brand/symbol.h"
 #include "brand/tone.h"
 #include "console/RecordRows.h"
-#include "layout/AdaptiveGrid.h"
 #include "layout/Frame.h"
 
 namespace quorvel {
@@ -68,7 +67,7 @@ ConnectorsView::ConnectorsView(WorkspaceStore& store) : VStack(22) {
   add({Gtk::make_managed<SectionHeader>("Connectors", "Real context from working apps",
                                         "Quorvel's helper agents can work from messages, files, calendars, "
                                         "stores, payments, finance, ads, and browser context."),
-       recordRows<AdaptiveGrid>(store, allOf(store.connectors), makeCard, 230, 14)});
+       lazyRecordRows(store, store.connectors, {.spacing = 14, .minimumColumnWidth = 230}, makeCard)});
 }
 
 } // namespace quorvel

@@ -7,7 +7,6 @@
 #include "brand/symbol.h"
 #include "brand/tone.h"
 #include "console/RecordRows.h"
-#include "layout/AdaptiveGrid.h"
 
 namespace quorvel {
 namespace {
@@ -99,7 +98,8 @@ PricingView::PricingView(WorkspaceStore& store) : VStack(22) {
   add({Gtk::make_managed<SectionHeader>("Plans", "From one person to managed rollout",
                                         "The desktop app mirrors the public Quorvel packaging: start small, "
                                         "add helpers, then add managed setup for teams."),
-       recordRows<AdaptiveGrid>(store, allOf(store.plans), made<PlanCard>, 230, gap), comparison()});
+       lazyRecordRows(store, store.plans, {.spacing = gap, .minimumColumnWidth = 230}, made<PlanCard>),
+       comparison()});
 }
 
 } // namespace quorvel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "layout/KeyedRows.h"
+#include "layout/LazyRows.h"
 #include "observation/observe.h"
 #include "workspace/WorkspaceStore.h"
 
@@ -61,7 +62,40 @@ auto* recordRows(WorkspaceStore& store, ListPart<Item> part, MakeRow makeRow, La
   return Gtk::make_managed<RecordRows<Container, Item, Row>>(store, part, std::move(makeRow), layout...);
 }
 
-/// For `recordRows`: a row that needs its record alone.
+/// A whole list of the store on screen, however long: only the rows or cards near sight exist. While there is
+/// nothing to show it is hidden, so that no gap is kept for it.
+template <Record Item, class Row>
+class LazyRecordRows : public LazyRows<Item, Row> {
+ public:
+  using List = Published<RecordList<Item>>;
+  using MakeRow = typename LazyRows<Item, Row>::MakeRow;
+
+  /// The store outlives the rows.
+  LazyRecordRows(WorkspaceStore& store, const List& list, LazyGrid::Form form, MakeRow makeRow)
+      : LazyRows<Item, Row>(list, form, std::move(makeRow)), list_(list) {
+    observe(store, *this, &LazyRecordRows::refresh);
+  }
+
+ protected:
+  /// Shows the list as it is now.
+  virtual void refresh() {
+    LazyRows<Item, Row>::refresh();
+    this->set_visible(!list_->empty());
+  }
+
+ private:
+  const List& list_;
+};
+
+/// Makes the rows of a whole list of the store; `makeRow` makes a managed row from its record. Managed.
+template <Record Item, class MakeRow>
+auto* lazyRecordRows(WorkspaceStore& store, const Published<RecordList<Item>>& list, LazyGrid::Form form,
+                     MakeRow makeRow) {
+  using Row = std::remove_pointer_t<std::invoke_result_t<MakeRow, const Item&>>;
+  return Gtk::make_managed<LazyRecordRows<Item, Row>>(store, list, form, std::move(makeRow));
+}
+
+/// A row that needs its record alone.
 template <class Row>
 constexpr auto made = [](const auto& record) { return Gtk::make_managed<Row>(record); };
 

@@ -9,9 +9,7 @@
 #include "brand/tone.h"
 #include "console/RecordRows.h"
 #include "console/trailingTexts.h"
-#include "layout/LazyRows.h"
 #include "layout/WidgetPer.h"
-#include "observation/observe.h"
 
 #include <array>
 #include <gtkmm/progressbar.h>
@@ -115,8 +113,6 @@ void RequestRow::show(const RequestItem& request) {
     pill->show(request.progress >= threshold);
 }
 
-using RequestRows = LazyRows<RequestItem, RequestRow>;
-
 } // namespace
 
 RequestsView::RequestsView(WorkspaceStore& store) : VStack(22) {
@@ -125,11 +121,8 @@ RequestsView::RequestsView(WorkspaceStore& store) : VStack(22) {
                                        "The queue shows source, assigned helper, current status, and "
                                        "the path toward a held draft or completed result.");
   auto* create = button("New Request", "plus", ButtonStyle::prominent, [&store] { store.createRequest(); });
-  // The list only grows, so its rows come and go with the scrolling.
-  auto* rows =
-      Gtk::make_managed<RequestRows>(*store.requests, LazyGrid::Form{.spacing = 12}, made<RequestRow>);
+  auto* rows = lazyRecordRows(store, store.requests, {.spacing = 12}, made<RequestRow>);
   add({hstack(defaultSpacing, {header, hspacer(), create}, VerticalAlignment::bottom), rows});
-  observe(store, *rows, &RequestRows::refresh);
 }
 
 } // namespace quorvel

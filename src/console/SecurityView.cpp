@@ -112,8 +112,9 @@ class ApprovalStateRow : public VStack {
 };
 
 Gtk::Widget* approvalProfile(WorkspaceStore& store) {
-  auto* profile = vstack(16, {text("Current approval profile", {TextStyle::title3, FontWeight::semibold}),
-                              recordRows<VStack>(store, allOf(store.approvals), made<ApprovalStateRow>, 16)});
+  auto* profile =
+      vstack(16, {text("Current approval profile", {TextStyle::title3, FontWeight::semibold}),
+                  lazyRecordRows(store, store.approvals, {.spacing = 16}, made<ApprovalStateRow>)});
   return quorvelCard(stretched(Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 340}, *profile)));
 }
 
