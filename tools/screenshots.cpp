@@ -26,10 +26,10 @@ void takePictures(const std::filesystem::path& folder, Size size) {
   Preferences preferences(settings.path / "preferences.ini");
   WorkspaceStore store;
   ConsoleColumns columns(store, preferences);
-  quorvel::tests::TestWindow stage(columns, size.width, size.height);
+  quorvel::tests::TestWindow window(columns, size.width, size.height);
   for (const auto section : allCases<WorkspaceSection>()) {
     store.selectedSection = section;
-    stage.savePicture(folder / fileName(section, size));
+    window.savePicture(folder / fileName(section, size));
   }
 }
 

@@ -59,6 +59,6 @@ int main(int argc, char** argv) {
   }
   const auto application = Gtk::Application::create();
   quorvel::installStyle();
-  quorvel::tests::TestWindow stage(*quorvel::sheet(), -1);
-  stage.savePicture(argv[1]);
+  quorvel::tests::TestWindow window(*quorvel::sheet(), -1);
+  window.savePicture(argv[1]);
 }

@@ -19,17 +19,17 @@ bool hasAccessibleText(Gtk::Widget& widget, GtkAccessibleProperty property, cons
 } // namespace
 
 TestWindow::TestWindow(Gtk::Widget& widget, int width, int height) : widget_(widget) {
-  window_.set_child(ground_);
+  set_child(ground_);
   ground_.put(widget_, 0, 0);
   resize(width, height);
-  window_.present();
-  if (!waitUntil([&] { return widget_.get_mapped() && widget_.get_width() > 0; }))
+  present();
+  if (!eventually([&] { return widget_.get_mapped() && widget_.get_width() > 0; }))
     throw std::runtime_error("the widget was never shown");
 }
 
 TestWindow::~TestWindow() {
   ground_.remove(widget_);
-  window_.close();
+  close();
 }
 
 void TestWindow::resize(int width, int height) {
@@ -38,19 +38,18 @@ void TestWindow::resize(int width, int height) {
   widget_.set_size_request(width, -1);
   widget_.measure(Gtk::Orientation::VERTICAL, width, minimum, natural, ignored, ignored);
   widget_.set_size_request(width, height < 0 ? natural : height);
-  window_.set_default_size(width, height < 0 ? natural : height);
-  if (window_.get_mapped())
+  set_default_size(width, height < 0 ? natural : height);
+  if (get_mapped())
     drawFrame(widget_);
 }
 
 Cairo::RefPtr<Cairo::ImageSurface> TestWindow::draw() {
   drawFrame(widget_);
-  const auto paintable = Gtk::WidgetPaintable::create(window_);
+  const auto paintable = Gtk::WidgetPaintable::create(*this);
   const auto snapshot = Gtk::Snapshot::create();
-  paintable->snapshot(snapshot, window_.get_width(), window_.get_height());
+  paintable->snapshot(snapshot, get_width(), get_height());
   auto* node = gtk_snapshot_to_node(snapshot->gobj());
-  const auto surface =
-      Cairo::ImageSurface::create(Cairo::Surface::Format::ARGB32, window_.get_width(), window_.get_height());
+  const auto surface = Cairo::ImageSurface::create(Cairo::Surface::Format::ARGB32, get_width(), get_height());
   gsk_render_node_draw(node, Cairo::Context::create(surface)->cobj());
   gsk_render_node_unref(node);
   surface->flush();
@@ -60,7 +59,7 @@ Cairo::RefPtr<Cairo::ImageSurface> TestWindow::draw() {
 Color TestWindow::pixel(int x, int y) {
   const auto surface = draw();
   double offsetX = 0, offsetY = 0;
-  widget_.translate_coordinates(window_, x, y, offsetX, offsetY);
+  widget_.translate_coordinates(*this, x, y, offsetX, offsetY);
   const auto* bgra =
       surface->get_data() + static_cast<int>(offsetY) * surface->get_stride() + static_cast<int>(offsetX) * 4;
   return {bgra[2] / 255.0, bgra[1] / 255.0, bgra[0] / 255.0};
@@ -77,23 +76,12 @@ void TestWindow::savePicture(const std::string& path) {
   draw()->write_to_png(path);
 }
 
-bool waitUntil(const std::function<bool()>& condition) {
-  bool isLate = false;
-  const auto deadline = Glib::signal_timeout().connect([&] { return !(isLate = true); }, 5000);
-  const auto context = Glib::MainContext::get_default();
-  while (!condition() && !isLate)
-    context->iteration(true);
-  auto timer = deadline;
-  timer.disconnect();
-  return condition();
-}
-
 void drawFrame(Gtk::Widget& widget) {
   // Callbacks run before the frame in which they are added is laid out, so the second one has seen a whole
   // frame.
   int frames = 0;
   widget.add_tick_callback([&](const auto&) { return ++frames < 2; });
-  if (!waitUntil([&] { return frames >= 2; }))
+  if (!eventually([&] { return frames >= 2; }))
     throw std::runtime_error("no frame was drawn");
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "brand/Color.h"
+#include "support/eventually.h"
 
-#include <functional>
 #include <gmock/gmock.h>
 #include <gtkmm.h>
 #include <string>
@@ -11,15 +11,14 @@
 namespace quorvel::tests {
 
 /// A real window that shows one widget at a given size, for tests that look at real widgets.
-class TestWindow {
+class TestWindow : public Gtk::Window {
  public:
   /// Shows `widget`, `width` points wide; with a height of -1 it is as high as it asks to be.
   explicit TestWindow(Gtk::Widget& widget, int width = 900, int height = -1);
-  ~TestWindow();
+  ~TestWindow() override;
 
   /// Shows the same widget in another width.
   void resize(int width, int height = -1);
-  Gtk::Window& window() { return window_; }
   /// What is on screen, pixel by pixel.
   Color pixel(int x, int y);
   /// The whole of it, for comparing.
@@ -31,7 +30,6 @@ class TestWindow {
   Cairo::RefPtr<Cairo::ImageSurface> draw();
 
   Gtk::Widget& widget_;
-  Gtk::Window window_;
   Gtk::Fixed ground_;
 };
 
@@ -42,8 +40,6 @@ MATCHER_P(IsColor, expected, "") {
   return same(arg.red, expected.red) && same(arg.green, expected.green) && same(arg.blue, expected.blue);
 }
 
-/// Runs the main loop until `condition` holds; false when it does not within the deadline.
-bool waitUntil(const std::function<bool()>& condition);
 /// Runs the main loop until what was announced has been drawn.
 void drawFrame(Gtk::Widget& widget);
 

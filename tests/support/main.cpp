@@ -1,21 +1,20 @@
 #include "brand/StyleSheet.h"
 #include "startup/messageBuses.h"
+#include "support/TemporaryFolder.h"
 
-#include <filesystem>
-#include <glib/gstdio.h>
 #include <gtest/gtest.h>
 #include <gtkmm.h>
 
 /// Runs tests of real widgets: with folders of their own, a pinned language and the software renderer, so
 /// that no user's settings and no graphics card change what they see.
 int main(int argc, char** argv) {
-  ::testing::InitGoogleTest(&argc, argv);
-  if (::testing::GTEST_FLAG(list_tests))
+  testing::InitGoogleTest(&argc, argv);
+  if (testing::GTEST_FLAG(list_tests))
     return RUN_ALL_TESTS();
 
-  const std::filesystem::path home = g_dir_make_tmp("quorvel-ui-XXXXXX", nullptr);
+  const quorvel::tests::TemporaryFolder home;
   for (const auto* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
-    g_setenv(folder, (home / folder).c_str(), true);
+    g_setenv(folder, (home.path / folder).c_str(), true);
   g_setenv("LC_ALL", "C.UTF-8", true);
   g_setenv("GSK_RENDERER", "cairo", true);
   g_setenv("GDK_DEBUG", "gl-disable", true);
@@ -28,7 +27,5 @@ int main(int argc, char** argv) {
   }
   Gtk::Application::create();
   quorvel::installStyle();
-  const int result = RUN_ALL_TESTS();
-  std::filesystem::remove_all(home);
-  return result;
+  return RUN_ALL_TESTS();
 }

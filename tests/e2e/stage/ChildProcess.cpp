@@ -1,6 +1,6 @@
 #include "e2e/stage/ChildProcess.h"
 
-#include "e2e/stage/eventually.h"
+#include "support/TemporaryFolder.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -16,6 +16,9 @@
 #include <unistd.h>
 
 namespace quorvel::e2e {
+
+using tests::eventually;
+
 namespace {
 
 std::vector<char*> pointers(const Arguments& command) {
@@ -140,14 +143,11 @@ std::vector<std::string> lacksOfSandbox(pid_t process, pid_t program) {
 }
 
 std::string outputOf(const Arguments& command, const Environment& environment) {
-  g_autofree char* folder = g_dir_make_tmp("quorvel-output-XXXXXX", nullptr);
-  g_autofree char* file = g_build_filename(folder, "output", nullptr);
+  const tests::TemporaryFolder folder;
+  const auto file = folder.path / "output";
   ChildProcess(command, environment, file).waitForEnd();
-  g_autofree char* text = nullptr;
-  g_file_get_contents(file, &text, nullptr, nullptr);
-  ::unlink(file);
-  ::rmdir(folder);
-  std::string result = text ? text : "";
+  std::ifstream stream(file);
+  std::string result{std::istreambuf_iterator<char>(stream), {}};
   if (result.ends_with('\n'))
     result.pop_back();
   return result;

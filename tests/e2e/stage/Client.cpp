@@ -1,7 +1,7 @@
 #include "e2e/stage/Client.h"
 
 #include "e2e/stage/Stage.h"
-#include "e2e/stage/eventually.h"
+#include "support/eventually.h"
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -12,6 +12,9 @@
 #include <sstream>
 
 namespace quorvel::e2e {
+
+using tests::eventually;
+
 namespace {
 
 std::string outputFile() {

@@ -2,7 +2,7 @@
 
 #include "e2e/stage/Client.h"
 #include "e2e/stage/Stage.h"
-#include "e2e/stage/eventually.h"
+#include "support/eventually.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -21,6 +21,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
+using tests::eventually;
 
 inline const std::string origin = "https://app.quorvel.example";
 inline const std::string agentPage = "/agent.html?source=mac_app";

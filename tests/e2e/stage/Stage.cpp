@@ -1,12 +1,15 @@
 #include "e2e/stage/Stage.h"
 
-#include "e2e/stage/eventually.h"
+#include "support/eventually.h"
 
 #include <cstdlib>
 #include <fstream>
 #include <stdexcept>
 
 namespace quorvel::e2e {
+
+using tests::eventually;
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -37,22 +37,22 @@ TEST(BrandMark, TheBarOfASmallMarkIsThreePointsHighAndOfALargeOneGrows) {
 TEST(BrandMark, IsASquareLightTileOfExactlyItsSize) {
   auto* mark = Gtk::make_managed<BrandMark>(104);
   auto* row = hstack(0, {mark, hspacer()});
-  TestWindow stage(*row, 300);
+  TestWindow window(*row, 300);
   EXPECT_EQ(mark->get_width(), 104);
   EXPECT_EQ(mark->get_height(), 104);
-  EXPECT_THAT(stage.pixel(52, 8), IsColor(QuorvelBrand::control));
+  EXPECT_THAT(window.pixel(52, 8), IsColor(QuorvelBrand::control));
 }
 
 /// A pill on screen, with the colours that it is drawn in.
 struct DrawnPill {
   DrawnPill(AccentTone tone, PillStyle style)
       : pill(*Gtk::make_managed<StatusPill>("Live", tone, style)),
-        stage(*hstack(0, {&pill, hspacer()}), 200) {}
-  Color fill() { return stage.pixel(pill.get_width() / 2, 3); }
+        window(*hstack(0, {&pill, hspacer()}), 200) {}
+  Color fill() { return window.pixel(pill.get_width() / 2, 3); }
   Gdk::RGBA textColor() { return labelled(pill, "Live")->get_style_context()->get_color(); }
 
   StatusPill& pill;
-  TestWindow stage;
+  TestWindow window;
 };
 
 TEST(StatusPill, AProminentInkPillIsAWhiteCapsuleWithNearBlackText) {
@@ -70,7 +70,7 @@ TEST(StatusPill, APlainInkPillIsAFaintWhiteTintWithWhiteText) {
 TEST(StatusPill, PadsItsTitleByNineAndFivePoints) {
   auto* pill = Gtk::make_managed<StatusPill>("Connected", AccentTone::green);
   auto* row = hstack(0, {pill, hspacer()});
-  TestWindow stage(*row, 300);
+  TestWindow window(*row, 300);
   const auto title = boundsIn(*pill, *labelled(*pill, "Connected"));
   EXPECT_EQ(title.get_x(), 9);
   EXPECT_EQ(title.get_y(), 5);
@@ -88,7 +88,7 @@ TEST(StatusPill, ShowsAnotherStateInPlace) {
 
 TEST(SectionHeader, ShowsItsEyebrowInUpperCase) {
   auto* header = Gtk::make_managed<SectionHeader>("Today at a glance", "Title", "Detail");
-  TestWindow stage(*header, 300);
+  TestWindow window(*header, 300);
   EXPECT_THAT(texts(*header), ElementsAre("TODAY AT A GLANCE", "Title", "Detail"));
 }
 
@@ -96,7 +96,7 @@ TEST(SectionHeader, ItsDetailWrapsAndIsNeverCut) {
   auto* header = Gtk::make_managed<SectionHeader>(
       "Eyebrow", "Title",
       "A detail that is much too long for the little width that this window leaves to it.");
-  TestWindow stage(*header, 200);
+  TestWindow window(*header, 200);
   auto* detail = all<Gtk::Label>(*header).back();
   EXPECT_GT(detail->get_layout()->get_line_count(), 1);
   EXPECT_FALSE(detail->get_layout()->is_ellipsized());
@@ -104,7 +104,7 @@ TEST(SectionHeader, ItsDetailWrapsAndIsNeverCut) {
 
 TEST(MetricTile, ShowsItsFourPartsAndANewValueInPlace) {
   auto* tile = Gtk::make_managed<MetricTile>("Active requests", "3", "Routed or drafting", AccentTone::blue);
-  TestWindow stage(*tile, 180);
+  TestWindow window(*tile, 180);
   tile->setValue("4");
   EXPECT_THAT(texts(*tile), ElementsAre("Active requests", "4", "Routed or drafting"));
   EXPECT_EQ(boundsIn(*tile, *labelled(*tile, "4")).get_x(), 18);
@@ -115,7 +115,7 @@ TEST(Tone, ATextTakesTheToneOfItselfAndOfAContainer) {
   auto* itself = toned(AccentTone::gold, text("Needs review", look));
   auto* inside = text("Approved", look);
   auto* both = vstack(0, {itself, toned(AccentTone::green, hstack(0, {inside}))});
-  TestWindow stage(*both, 300);
+  TestWindow window(*both, 300);
   EXPECT_THAT(inkOf(*itself), IsColor(QuorvelBrand::gold));
   EXPECT_THAT(inkOf(*inside), IsColor(QuorvelBrand::green));
 }
@@ -123,7 +123,7 @@ TEST(Tone, ATextTakesTheToneOfItselfAndOfAContainer) {
 TEST(Typography, TextGrowsWithTheTextSizeOfTheDesktop) {
   auto* label = text("Connectors", {TextStyle::body});
   auto* row = hstack(0, {label, hspacer()});
-  TestWindow stage(*row, 400);
+  TestWindow window(*row, 400);
   const int before = label->get_width();
   auto settings = Gtk::Settings::get_default();
   const int dpi = settings->property_gtk_xft_dpi();

@@ -18,7 +18,7 @@ struct ModelSwitchTest : ::testing::Test {
   }
   void act() { gtk_widget_activate(GTK_WIDGET(toggle.gobj())); }
   bool arrivesAt(bool isOn) {
-    return waitUntil([&] { return toggle.get_active() == isOn && toggle.get_state() == isOn; });
+    return eventually([&] { return toggle.get_active() == isOn && toggle.get_state() == isOn; });
   }
 
   std::vector<bool> written;
@@ -28,7 +28,7 @@ struct ModelSwitchTest : ::testing::Test {
     if (!isStubborn)
       toggle.show(isOn);
   });
-  TestWindow stage{*hstack(0, {&toggle, hspacer()}), 200};
+  TestWindow window{*hstack(0, {&toggle, hspacer()}), 200};
 };
 
 TEST_F(ModelSwitchTest, ShowingAValueWritesNothing) {

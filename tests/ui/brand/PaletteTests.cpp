@@ -54,7 +54,7 @@ TEST(QuorvelCard, PadsByEighteenPointsUnlessToldOtherwise) {
   auto* content = block();
   auto* card = quorvelCard(content);
   auto* row = hstack(0, {card});
-  TestWindow stage(*row, 300);
+  TestWindow window(*row, 300);
   EXPECT_EQ(card->get_width(), 136);
   EXPECT_EQ(card->get_height(), 76);
   EXPECT_EQ(boundsIn(*card, *content).get_x(), 18);
@@ -64,7 +64,7 @@ TEST(QuorvelCard, WithoutPaddingTheFrameIsTightAroundTheContent) {
   auto* content = block();
   auto* card = quorvelCard(content, 0);
   auto* row = hstack(0, {card});
-  TestWindow stage(*row, 300);
+  TestWindow window(*row, 300);
   EXPECT_EQ(card->get_width(), 100);
   EXPECT_EQ(card->get_height(), 40);
 }
@@ -72,8 +72,8 @@ TEST(QuorvelCard, WithoutPaddingTheFrameIsTightAroundTheContent) {
 TEST(QuorvelCard, IsFilledWithThePanelColour) {
   auto* card = quorvelCard(block());
   auto* row = hstack(0, {card});
-  TestWindow stage(*row, 300);
-  EXPECT_THAT(stage.pixel(60, 30), IsColor(QuorvelBrand::panel));
+  TestWindow window(*row, 300);
+  EXPECT_THAT(window.pixel(60, 30), IsColor(QuorvelBrand::panel));
 }
 
 } // namespace

@@ -81,10 +81,10 @@ class EverySymbol : public ::testing::TestWithParam<const char*> {
   }
 
   Gtk::Image* image_ = drawn(GetParam());
-  TestWindow stage_{*image_, side, side};
-  std::vector<unsigned char> picture_ = stage_.picture();
-  int left_ = boundsIn(stage_.window(), *image_).get_x(), top_ = boundsIn(stage_.window(), *image_).get_y();
-  int stride_ = static_cast<int>(picture_.size()) / stage_.window().get_height();
+  TestWindow window_{*image_, side, side};
+  std::vector<unsigned char> picture_ = window_.picture();
+  int left_ = boundsIn(window_, *image_).get_x(), top_ = boundsIn(window_, *image_).get_y();
+  int stride_ = static_cast<int>(picture_.size()) / window_.get_height();
 };
 
 TEST_P(EverySymbol, IsTheProjectsOwnDrawing) {

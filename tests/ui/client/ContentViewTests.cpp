@@ -50,10 +50,10 @@ class ContentViewTest : public ModelTest {
 
   void open() {
     view = std::make_unique<ContentView>(*model);
-    screen = std::make_unique<TestWindow>(*view, ContentView::minimumWidth, ContentView::minimumHeight);
+    window = std::make_unique<TestWindow>(*view, ContentView::minimumWidth, ContentView::minimumHeight);
   }
   void close() {
-    screen.reset();
+    window.reset();
     view.reset();
   }
   /// Shows a page and what the model then says.
@@ -85,7 +85,7 @@ class ContentViewTest : public ModelTest {
   }
 
   std::unique_ptr<ContentView> view;
-  std::unique_ptr<TestWindow> screen;
+  std::unique_ptr<TestWindow> window;
 };
 
 TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
@@ -116,7 +116,7 @@ TEST_F(ContentViewTest, AtTheLeastWidthTheSidebarKeepsItsWidthAndThePageTakesThe
   EXPECT_THAT(toolbar, IsRectangle(307, 0, 873, toolbar.get_height()));
   EXPECT_THAT(bounds(the<QuorvelWebView>()),
               IsRectangle(307, toolbar.get_height(), 873, 760 - toolbar.get_height()));
-  EXPECT_THAT(screen->pixel(306, 400), IsColor(Color{0.122, 0.123, 0.124})) << "the line on the background";
+  EXPECT_THAT(window->pixel(306, 400), IsColor(Color{0.122, 0.123, 0.124})) << "the line on the background";
 }
 
 TEST_F(ContentViewTest, AWarningStandsAboveThePageAndIsNeverCut) {
@@ -148,7 +148,7 @@ TEST_F(ContentViewTest, NothingFitsIntoLessThanTheLeastSize) {
 }
 
 TEST_F(ContentViewTest, AWiderWindowGivesThePageTheWholeGain) {
-  screen->resize(1500, 900);
+  window->resize(1500, 900);
   EXPECT_THAT(bounds(the<DesktopClientSidebar>()), IsRectangle(0, 0, 306, 900));
   EXPECT_EQ(bounds(the<QuorvelWebView>()).get_width(), 1193);
 }
@@ -174,8 +174,8 @@ TEST_F(ContentViewTest, TheSidebarsPartsStandWhereTheyBelong) {
 }
 
 TEST_F(ContentViewTest, TheSidebarFadesFromItsTopColourToItsBottomOne) {
-  EXPECT_THAT(screen->pixel(2, 0), IsColor(Color{0.028, 0.022, 0.02}));
-  EXPECT_THAT(screen->pixel(2, 759), IsColor(Color{0.006, 0.006, 0.007}));
+  EXPECT_THAT(window->pixel(2, 0), IsColor(Color{0.028, 0.022, 0.02}));
+  EXPECT_THAT(window->pixel(2, 759), IsColor(Color{0.006, 0.006, 0.007}));
 }
 
 TEST_F(ContentViewTest, OnThePricingPageOnlyPricingIsHighlighted) {
@@ -195,15 +195,15 @@ TEST_F(ContentViewTest, TheHighlightedRowIsRaisedAndOutlinedAndTheOthersHaveNoBo
   auto* selected = buttonNamed(*view, "Agent workspace");
   const auto place = bounds(*selected);
   const int middle = place.get_y() + place.get_height() / 2;
-  EXPECT_THAT(screen->pixel(place.get_x() + 6, middle), IsColor(QuorvelBrand::panelRaised));
+  EXPECT_THAT(window->pixel(place.get_x() + 6, middle), IsColor(QuorvelBrand::panelRaised));
   EXPECT_THAT(tests::inkOf(*labelled(*view, "Agent workspace")), IsColor(QuorvelBrand::ink));
   EXPECT_THAT(tests::inkOf(*tests::all<Gtk::Image>(*selected).front()), IsColor(QuorvelBrand::green));
   EXPECT_THAT(tests::inkOf(*labelled(*view, "Chats and approvals")), IsColor(QuorvelBrand::muted));
 
   auto* other = buttonNamed(*view, "Connectors");
   const auto otherPlace = bounds(*other);
-  EXPECT_EQ(screen->pixel(otherPlace.get_x() + 6, otherPlace.get_y() + 10),
-            screen->pixel(otherPlace.get_x() - 6, otherPlace.get_y() + 10));
+  EXPECT_EQ(window->pixel(otherPlace.get_x() + 6, otherPlace.get_y() + 10),
+            window->pixel(otherPlace.get_x() - 6, otherPlace.get_y() + 10));
   EXPECT_THAT(tests::inkOf(*labelled(*view, "Connectors")), IsColor(QuorvelBrand::secondaryInk));
   EXPECT_THAT(tests::inkOf(*tests::all<Gtk::Image>(*other).front()), IsColor(QuorvelBrand::muted));
 }
@@ -229,7 +229,7 @@ TEST_F(ContentViewTest, ASpinnerFloatsAtTheTopCentreOfThePageWhileItLoadsAndOnly
 
   server.silence("/silent.html");
   model->load(server.address("/silent.html"));
-  ASSERT_TRUE(tests::waitUntil([&] { return spinner.get_mapped() && spinner.get_width() > 0; }));
+  ASSERT_TRUE(tests::eventually([&] { return spinner.get_mapped() && spinner.get_width() > 0; }));
   EXPECT_TRUE(spinner.get_spinning());
   const auto page = bounds(the<QuorvelWebView>());
   const auto place = bounds(spinner);
@@ -237,7 +237,7 @@ TEST_F(ContentViewTest, ASpinnerFloatsAtTheTopCentreOfThePageWhileItLoadsAndOnly
   EXPECT_NEAR(place.get_x() + place.get_width() / 2, page.get_x() + page.get_width() / 2, 1);
 
   webkit_web_view_stop_loading(webView());
-  EXPECT_TRUE(tests::waitUntil([&] { return !spinner.get_mapped(); }));
+  EXPECT_TRUE(tests::eventually([&] { return !spinner.get_mapped(); }));
   EXPECT_FALSE(spinner.get_spinning());
 }
 
@@ -281,11 +281,11 @@ TEST_F(ContentViewTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlwa
   EXPECT_FALSE(button("Forward").get_sensitive());
 
   tests::click(button("Back"));
-  ASSERT_TRUE(tests::waitUntil([&] { return button("Forward").get_sensitive(); }));
+  ASSERT_TRUE(tests::eventually([&] { return button("Forward").get_sensitive(); }));
   EXPECT_FALSE(button("Back").get_sensitive());
 
   tests::click(button("Forward"));
-  EXPECT_TRUE(tests::waitUntil([&] { return button("Back").get_sensitive(); }));
+  EXPECT_TRUE(tests::eventually([&] { return button("Back").get_sensitive(); }));
 }
 
 TEST_F(ContentViewTest, AButtonThatIsDisabledUnderTheFocusHandsItToTheOneBeside) {
@@ -293,13 +293,13 @@ TEST_F(ContentViewTest, AButtonThatIsDisabledUnderTheFocusHandsItToTheOneBeside)
   button("Back").grab_focus();
   ASSERT_TRUE(button("Back").has_focus());
   tests::click(button("Back"));
-  ASSERT_TRUE(tests::waitUntil([&] { return !button("Back").get_sensitive(); }));
+  ASSERT_TRUE(tests::eventually([&] { return !button("Back").get_sensitive(); }));
   EXPECT_TRUE(button("Reload").has_focus());
 }
 
 TEST_F(ContentViewTest, ReloadAndOpenExternallyDoTheirWork) {
   tests::click(button("Reload"));
-  EXPECT_TRUE(tests::waitUntil([&] { return server.count("/agent.html") == 2; }));
+  EXPECT_TRUE(tests::eventually([&] { return server.count("/agent.html") == 2; }));
   waitForRest();
   tests::click(button("Open externally"));
   EXPECT_THAT(opened, ElementsAre(server.address("/agent.html")));
@@ -318,8 +318,8 @@ TEST_F(ContentViewTest, ButtonsAndRowsHaveTheirNamesAndTooltips) {
 
 TEST_F(ContentViewTest, TheToolbarHasItsColourAndALineBelow) {
   const int height = bounds(the<DesktopClientToolbar>()).get_height();
-  EXPECT_THAT(screen->pixel(312, 4), IsColor(Color{0.02, 0.018, 0.018}));
-  EXPECT_THAT(screen->pixel(312, height - 1), IsColor(Color{0.133, 0.131, 0.131}));
+  EXPECT_THAT(window->pixel(312, 4), IsColor(Color{0.02, 0.018, 0.018}));
+  EXPECT_THAT(window->pixel(312, height - 1), IsColor(Color{0.133, 0.131, 0.131}));
   EXPECT_EQ(bounds(button("Back")).get_x(), 307 + 14);
   EXPECT_EQ(bounds(button("Forward")).get_x(),
             bounds(button("Back")).get_x() + bounds(button("Back")).get_width() + 10);
@@ -328,8 +328,8 @@ TEST_F(ContentViewTest, TheToolbarHasItsColourAndALineBelow) {
 }
 
 TEST_F(ContentViewTest, ResizingNeverReloads) {
-  screen->resize(1400, 860);
-  screen->resize(1180, 760);
+  window->resize(1400, 860);
+  window->resize(1180, 760);
   settle();
   EXPECT_EQ(server.count("/agent.html"), 1);
 }
@@ -338,7 +338,7 @@ TEST_F(ContentViewTest, AChangeOfTitleOrLoadingNeitherReloadsNorReplacesThePage)
   auto* shown = the<QuorvelWebView>().get_first_child();
   ASSERT_EQ(shown->gobj(), GTK_WIDGET(webView()));
   runScript("document.title = 'Another'");
-  ASSERT_TRUE(tests::waitUntil([&] { return *model->title == "Another"; }));
+  ASSERT_TRUE(tests::eventually([&] { return *model->title == "Another"; }));
   tests::drawFrame(*view);
   EXPECT_EQ(the<QuorvelWebView>().get_first_child(), shown);
   EXPECT_EQ(server.count("/agent.html"), 1);
@@ -346,7 +346,7 @@ TEST_F(ContentViewTest, AChangeOfTitleOrLoadingNeitherReloadsNorReplacesThePage)
 
 TEST_F(ContentViewTest, MakingAndDroppingTheWindowNeverTouchesThePage) {
   runScript("document.title = 'kept'");
-  ASSERT_TRUE(tests::waitUntil([&] { return *model->title == "kept"; }));
+  ASSERT_TRUE(tests::eventually([&] { return *model->title == "kept"; }));
   close();
   EXPECT_EQ(gtk_widget_get_parent(GTK_WIDGET(webView())), nullptr);
   open();
@@ -378,14 +378,13 @@ TEST_F(ContentViewTest, ThePageIsMovedToItsNewestHost) {
 }
 
 TEST_F(ContentViewTest, TheTabKeyGoesFromTheSidebarOverTheToolbarIntoThePageAndOutAgain) {
-  auto& window = screen->window();
-  const auto focused = [&]() -> Gtk::Widget* { return window.get_focus(); };
+  const auto focused = [&]() -> Gtk::Widget* { return window->get_focus(); };
   button("Support").grab_focus();
-  EXPECT_TRUE(window.child_focus(Gtk::DirectionType::TAB_FORWARD));
+  EXPECT_TRUE(window->child_focus(Gtk::DirectionType::TAB_FORWARD));
   EXPECT_EQ(focused(), &button("Reload")) << "what is disabled is passed over";
-  EXPECT_TRUE(window.child_focus(Gtk::DirectionType::TAB_FORWARD));
+  EXPECT_TRUE(window->child_focus(Gtk::DirectionType::TAB_FORWARD));
   EXPECT_EQ(focused(), &button("Open externally"));
-  EXPECT_TRUE(window.child_focus(Gtk::DirectionType::TAB_FORWARD));
+  EXPECT_TRUE(window->child_focus(Gtk::DirectionType::TAB_FORWARD));
   EXPECT_EQ(focused()->gobj(), GTK_WIDGET(webView()));
   EXPECT_FALSE(gtk_widget_child_focus(GTK_WIDGET(webView()), GTK_DIR_TAB_FORWARD))
       << "no part of the view is a stop of its own";

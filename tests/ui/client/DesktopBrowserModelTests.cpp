@@ -76,7 +76,7 @@ TEST_F(DesktopBrowserModelTest, UpdatesThatWaitAreDroppedWhenTheModelGoes) {
   gpointer watched = object;
   g_object_add_weak_pointer(object, &watched);
   model.reset();
-  EXPECT_TRUE(tests::waitUntil([&] { return watched == nullptr; })) << "the view goes with its model";
+  EXPECT_TRUE(tests::eventually([&] { return watched == nullptr; })) << "the view goes with its model";
   while (Glib::MainContext::get_default()->iteration(false))
     ;
   EXPECT_EQ(announcements, 0);
@@ -84,16 +84,16 @@ TEST_F(DesktopBrowserModelTest, UpdatesThatWaitAreDroppedWhenTheModelGoes) {
 
 TEST_F(DesktopBrowserModelTest, TheTitleFollowsThePageAlsoWhenItComesLate) {
   show("/pricing.html");
-  EXPECT_TRUE(tests::waitUntil([&] { return *model->title == "Pricing"; })) << *model->title;
+  EXPECT_TRUE(tests::eventually([&] { return *model->title == "Pricing"; })) << *model->title;
   runScript("document.title = 'Plans for you'");
-  EXPECT_TRUE(tests::waitUntil([&] { return *model->title == "Plans for you"; })) << *model->title;
+  EXPECT_TRUE(tests::eventually([&] { return *model->title == "Plans for you"; })) << *model->title;
 }
 
 TEST_F(DesktopBrowserModelTest, AnEmptyTitleIsKeptEmpty) {
   show("/pricing.html");
   server.page("/untitled.html", "<title></title><p>no title");
   show("/untitled.html");
-  EXPECT_TRUE(tests::waitUntil([&] { return model->title->empty(); })) << *model->title;
+  EXPECT_TRUE(tests::eventually([&] { return model->title->empty(); })) << *model->title;
 }
 
 TEST_F(DesktopBrowserModelTest, BackAndForwardWorkAfterAFragmentOfTheSameDocument) {
@@ -102,23 +102,23 @@ TEST_F(DesktopBrowserModelTest, BackAndForwardWorkAfterAFragmentOfTheSameDocumen
   show("/agent.html#connectorsCenter");
   EXPECT_EQ(server.count("/agent.html"), 1) << "no new document is loaded";
   EXPECT_TRUE(model->isShowing(QuorvelRoute::connectors));
-  EXPECT_TRUE(tests::waitUntil([&] { return model->canGoBack && !model->canGoForward; }));
+  EXPECT_TRUE(tests::eventually([&] { return model->canGoBack && !model->canGoForward; }));
 
   model->goBack();
   waitForAddress("/agent.html");
-  EXPECT_TRUE(tests::waitUntil([&] { return !model->canGoBack && model->canGoForward; }));
+  EXPECT_TRUE(tests::eventually([&] { return !model->canGoBack && model->canGoForward; }));
   EXPECT_TRUE(model->isShowing(QuorvelRoute::agent));
 
   model->goForward();
   waitForAddress("/agent.html#connectorsCenter");
-  EXPECT_TRUE(tests::waitUntil([&] { return model->canGoBack && !model->canGoForward; }));
+  EXPECT_TRUE(tests::eventually([&] { return model->canGoBack && !model->canGoForward; }));
 }
 
 TEST_F(DesktopBrowserModelTest, APagesOwnPushStateShows) {
   show("/agent.html");
   runScript("history.pushState({}, '', '/agent.html?chat=7')");
   waitForAddress("/agent.html?chat=7");
-  EXPECT_TRUE(tests::waitUntil([&] { return *model->canGoBack; }));
+  EXPECT_TRUE(tests::eventually([&] { return *model->canGoBack; }));
   EXPECT_EQ(server.requests().size(), 1u);
 }
 
@@ -129,7 +129,7 @@ TEST_F(DesktopBrowserModelTest, BackForwardAndReloadWithoutHistoryDoNothingHarmf
   settle();
   EXPECT_EQ(*model->currentURLString, server.address("/agent.html"));
   model->reload();
-  EXPECT_TRUE(tests::waitUntil([&] { return server.count("/agent.html") == 2; }));
+  EXPECT_TRUE(tests::eventually([&] { return server.count("/agent.html") == 2; }));
 }
 
 TEST_F(DesktopBrowserModelTest, ALinkWithABlankTargetLoadsInTheSameViewAndBackReturns) {
@@ -137,7 +137,7 @@ TEST_F(DesktopBrowserModelTest, ALinkWithABlankTargetLoadsInTheSameViewAndBackRe
   show("/links.html");
   runScript("document.getElementById('a').click()");
   waitForAddress("/pricing.html");
-  EXPECT_TRUE(tests::waitUntil([&] { return *model->canGoBack; }));
+  EXPECT_TRUE(tests::eventually([&] { return *model->canGoBack; }));
   model->goBack();
   waitForAddress("/links.html");
 }
@@ -146,7 +146,7 @@ TEST_F(DesktopBrowserModelTest, AWindowOpenedByAScriptLoadsInTheSameViewAndBackR
   show("/agent.html");
   runScript("window.open('/pricing.html', 'plans', 'width=300')");
   waitForAddress("/pricing.html");
-  EXPECT_TRUE(tests::waitUntil([&] { return *model->canGoBack; }));
+  EXPECT_TRUE(tests::eventually([&] { return *model->canGoBack; }));
   model->goBack();
   waitForAddress("/agent.html");
 }
@@ -168,7 +168,7 @@ TEST_F(DesktopBrowserModelTest, AFrameOfAnotherSiteCannotRunItsScriptInThePageBy
               "<iframe src='" +
                   server.address("/frame.html", "localhost") + "'></iframe>");
   show("/host.html");
-  EXPECT_TRUE(tests::waitUntil([&] { return *model->title == "Host still"; })) << *model->title;
+  EXPECT_TRUE(tests::eventually([&] { return *model->title == "Host still"; })) << *model->title;
   EXPECT_EQ(*model->currentURLString, server.address("/host.html"));
 }
 
@@ -188,7 +188,7 @@ TEST_P(WaysOut, ReachTheSystemAndNeverTheView) {
   std::vector<std::string> shown;
   model->objectWillChange().connect([&] { shown.push_back(model->currentURLString); });
   runScript("go()");
-  ASSERT_TRUE(tests::waitUntil([&] { return !opened.empty(); }));
+  ASSERT_TRUE(tests::eventually([&] { return !opened.empty(); }));
   waitForRest();
   shown.push_back(model->currentURLString);
 
@@ -228,7 +228,7 @@ TEST_F(DesktopBrowserModelTest, ALinkToAForeignSiteOpensInsideAndCanBeHandedToTh
   server.page("/links.html", "<a id=a href='" + foreign + "'>elsewhere</a>");
   show("/links.html");
   runScript("document.getElementById('a').click()");
-  ASSERT_TRUE(tests::waitUntil([&] { return *model->currentURLString == foreign; }));
+  ASSERT_TRUE(tests::eventually([&] { return *model->currentURLString == foreign; }));
   EXPECT_THAT(opened, IsEmpty());
   model->openExternal();
   EXPECT_THAT(opened, ElementsAre(foreign));
@@ -237,7 +237,7 @@ TEST_F(DesktopBrowserModelTest, ALinkToAForeignSiteOpensInsideAndCanBeHandedToTh
 TEST_F(DesktopBrowserModelTest, AfterThePagesProcessDiedTheAddressStaysAndReloadBringsThePageBack) {
   show("/pricing.html");
   webkit_web_view_terminate_web_process(webView());
-  ASSERT_TRUE(tests::waitUntil([&] { return *webkit_web_view_get_uri(webView()) == '\0'; }));
+  ASSERT_TRUE(tests::eventually([&] { return *webkit_web_view_get_uri(webView()) == '\0'; }));
   while (Glib::MainContext::get_default()->iteration(false))
     ;
   EXPECT_EQ(*model->currentURLString, server.address("/pricing.html"));
@@ -246,7 +246,7 @@ TEST_F(DesktopBrowserModelTest, AfterThePagesProcessDiedTheAddressStaysAndReload
   EXPECT_THAT(opened, ElementsAre(url(QuorvelRoute::agent))) << "the view itself has no address";
 
   model->reload();
-  EXPECT_TRUE(tests::waitUntil([&] { return server.count("/pricing.html") == 2; }));
+  EXPECT_TRUE(tests::eventually([&] { return server.count("/pricing.html") == 2; }));
   waitForAddress("/pricing.html");
 }
 
@@ -275,7 +275,7 @@ TEST_F(DesktopBrowserModelTest, AServerErrorEndsTheLoadingState) {
 TEST_F(DesktopBrowserModelTest, AConnectionThatBreaksInMidBodyEndsTheLoadingState) {
   server.hangUpInMidBody("/half.html");
   model->load(server.address("/half.html"));
-  ASSERT_TRUE(tests::waitUntil([&] { return server.count("/half.html") > 0; }));
+  ASSERT_TRUE(tests::eventually([&] { return server.count("/half.html") > 0; }));
   waitForRest();
 }
 
@@ -284,7 +284,7 @@ TEST_F(DesktopBrowserModelTest, AServerThatSaysNothingEndsTheLoadingStateAfterTh
   EXPECT_FALSE(timer.isRunning()) << "nothing is loading";
   server.silence("/silent.html");
   model->load(server.address("/silent.html"));
-  ASSERT_TRUE(tests::waitUntil([&] { return server.count("/silent.html") > 0 && *model->isLoading; }));
+  ASSERT_TRUE(tests::eventually([&] { return server.count("/silent.html") > 0 && *model->isLoading; }));
   ASSERT_TRUE(timer.isRunning());
   EXPECT_EQ(timer.lastDelay, std::chrono::seconds(30));
   timer.letOff();
@@ -324,16 +324,16 @@ TEST_F(DesktopBrowserModelTest, APageThatStillGrowsWhenThirtySecondsAreOverIsWai
   show("/agent.html");
   PageInPieces page(server, "/slow.html");
   model->load(server.address("/slow.html"));
-  ASSERT_TRUE(tests::waitUntil([&] { return page.isAskedFor(); }));
+  ASSERT_TRUE(tests::eventually([&] { return page.isAskedFor(); }));
   page.send("<title>Slow</title>" + std::string(4000, 'x'));
-  ASSERT_TRUE(tests::waitUntil([&] { return *model->title == "Slow"; }));
+  ASSERT_TRUE(tests::eventually([&] { return *model->title == "Slow"; }));
   for (int round = 0; round < 3; ++round) {
     page.send("<script>document.title = 'round " + std::to_string(round) + "'</script>");
-    ASSERT_TRUE(tests::waitUntil([&] { return *model->title == "round " + std::to_string(round); }));
+    ASSERT_TRUE(tests::eventually([&] { return *model->title == "round " + std::to_string(round); }));
     settle();
     ASSERT_TRUE(timer.isRunning());
     timer.letOff();
-    EXPECT_TRUE(tests::waitUntil([&] { return timer.isRunning(); })) << "round " << round;
+    EXPECT_TRUE(tests::eventually([&] { return timer.isRunning(); })) << "round " << round;
     EXPECT_TRUE(webkit_web_view_is_loading(webView()));
   }
   page.end();
@@ -345,12 +345,12 @@ TEST_F(DesktopBrowserModelTest, APageThatFallsSilentHalfWayEndsTheLoadingState) 
   show("/agent.html");
   PageInPieces page(server, "/slow.html");
   model->load(server.address("/slow.html"));
-  ASSERT_TRUE(tests::waitUntil([&] { return page.isAskedFor(); }));
+  ASSERT_TRUE(tests::eventually([&] { return page.isAskedFor(); }));
   page.send("<title>Half</title>" + std::string(4000, 'x'));
-  ASSERT_TRUE(tests::waitUntil([&] { return *model->title == "Half" && *model->isLoading; }));
+  ASSERT_TRUE(tests::eventually([&] { return *model->title == "Half" && *model->isLoading; }));
   settle();
   timer.letOff(); // the page has grown since it began
-  ASSERT_TRUE(tests::waitUntil([&] { return timer.isRunning(); }));
+  ASSERT_TRUE(tests::eventually([&] { return timer.isRunning(); }));
   timer.letOff();
   waitForRest();
   EXPECT_EQ(*model->currentURLString, server.address("/slow.html"));
@@ -370,12 +370,12 @@ TEST_F(DesktopBrowserModelTest, ASignInAndLocalStorageSurviveARestart) {
     std::ifstream stream(folder / "user" / "data" / file, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(stream), {}).find(text) != std::string::npos;
   };
-  ASSERT_TRUE(tests::waitUntil([&] { return hasStored("cookies.sqlite", "session"); }));
+  ASSERT_TRUE(tests::eventually([&] { return hasStored("cookies.sqlite", "session"); }));
   start();
   show("/agent.html");
   EXPECT_EQ(server.requests().back().cookies, "session=abc");
   runScript("document.title = localStorage.getItem('draft')");
-  EXPECT_TRUE(tests::waitUntil([&] { return *model->title == "kept"; })) << *model->title;
+  EXPECT_TRUE(tests::eventually([&] { return *model->title == "kept"; })) << *model->title;
 }
 
 TEST_F(DesktopBrowserModelTest, WhatIsKeptIsPrivateToTheUser) {
@@ -427,7 +427,7 @@ TEST_F(DesktopBrowserModelTest, ADownloadNeverReplacesAFile) {
     std::error_code none;
     return std::filesystem::file_size(downloads / name, none);
   };
-  EXPECT_TRUE(tests::waitUntil([&] { return size("invoice (1).pdf") == 3; }));
+  EXPECT_TRUE(tests::eventually([&] { return size("invoice (1).pdf") == 3; }));
   EXPECT_EQ(size("invoice.pdf"), std::string("the user's own").size());
   waitForRest();
   EXPECT_EQ(*model->currentURLString, server.address("/links.html"));

@@ -8,11 +8,6 @@ ModelTest::ModelTest() {
   start();
 }
 
-ModelTest::~ModelTest() {
-  model.reset();
-  remove_all(folder);
-}
-
 void ModelTest::start(const std::string& name) {
   model.reset();
   model = std::make_unique<DesktopBrowserModel>(DesktopBrowserModel::Surroundings{
@@ -38,14 +33,14 @@ void ModelTest::waitForAddress(const std::string& path) {
     return *model->currentURLString == address && !webkit_web_view_is_loading(webView()) &&
            document_.starts_with(address.substr(0, address.find_first_of("?#")));
   };
-  ASSERT_TRUE(tests::waitUntil(isThere)) << *model->currentURLString << " instead of " << address;
+  ASSERT_TRUE(tests::eventually(isThere)) << *model->currentURLString << " instead of " << address;
 }
 
 void ModelTest::waitForRest() {
   const auto rests = [&] { return !webkit_web_view_is_loading(webView()) && !model->isLoading; };
-  ASSERT_TRUE(tests::waitUntil(rests));
+  ASSERT_TRUE(tests::eventually(rests));
   settle();
-  ASSERT_TRUE(tests::waitUntil(rests));
+  ASSERT_TRUE(tests::eventually(rests));
 }
 
 void ModelTest::runScript(const std::string& script) {
@@ -59,7 +54,7 @@ void ModelTest::runScript(const std::string& script) {
   };
   webkit_web_view_evaluate_javascript(webView(), script.c_str(), -1, nullptr, nullptr, nullptr, onDone,
                                       &isDone);
-  ASSERT_TRUE(tests::waitUntil([&] { return isDone; }));
+  ASSERT_TRUE(tests::eventually([&] { return isDone; }));
 }
 
 void ModelTest::settle() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "client/DesktopBrowserModel.h"
+#include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 #include "ui/client/LoopbackServer.h"
 
@@ -35,7 +36,7 @@ class ManualTimer {
 class ModelTest : public ::testing::Test {
  protected:
   ModelTest();
-  ~ModelTest() override;
+  ~ModelTest() override { model.reset(); }
 
   /// Starts the program's model anew, in the folders `folder`/`name`/data and cache.
   void start(const std::string& name = "user");
@@ -50,7 +51,8 @@ class ModelTest : public ::testing::Test {
   /// Lets everything that is under way in the page and in the main loop come to an end.
   void settle();
 
-  std::filesystem::path folder = g_dir_make_tmp("quorvel-model-XXXXXX", nullptr);
+  const tests::TemporaryFolder temporary;
+  const std::filesystem::path folder = temporary.path;
   LoopbackServer server;
   /// What was handed to the system.
   std::vector<std::string> opened;

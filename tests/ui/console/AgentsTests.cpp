@@ -57,7 +57,7 @@ class AgentsTest : public ::testing::Test {
 
   WorkspaceStore store_;
   AgentsView view_{store_};
-  TestWindow stage_{view_, 852};
+  TestWindow window_{view_, 852};
 };
 
 TEST_F(AgentsTest, ShowsTheHeaderAndACardForEveryAgentInTheStoresOrder) {
@@ -120,8 +120,8 @@ TEST_F(AgentsTest, TheBadgeIsASoftCircleOfExactly42PointsInTheAgentsTone) {
   show({agent("ledger")});
   EXPECT_THAT(inkOf(monogram()), IsColor(QuorvelBrand::clay));
   const auto bounds = boundsIn(view_, *monogram().get_parent());
-  EXPECT_THAT(stage_.pixel(bounds.get_x() + 4, bounds.get_y() + 21), Not(IsColor(QuorvelBrand::panel)));
-  EXPECT_THAT(stage_.pixel(bounds.get_x() + 1, bounds.get_y() + 1), IsColor(QuorvelBrand::panel))
+  EXPECT_THAT(window_.pixel(bounds.get_x() + 4, bounds.get_y() + 21), Not(IsColor(QuorvelBrand::panel)));
+  EXPECT_THAT(window_.pixel(bounds.get_x() + 1, bounds.get_y() + 1), IsColor(QuorvelBrand::panel))
       << "outside the circle";
 }
 
@@ -138,12 +138,12 @@ TEST_F(AgentsTest, ThePillShowsTheLoadInTheAgentsOwnToneWhateverTheLoad) {
 }
 
 TEST_F(AgentsTest, HoweverNarrowThereIsOneColumnAndNoneIsNarrowerThan260Points) {
-  stage_.resize(533);
+  window_.resize(533);
   EXPECT_EQ(columns(), 1);
-  stage_.resize(534);
+  window_.resize(534);
   EXPECT_EQ(columns(), 2);
   EXPECT_EQ(cards().front()->get_width(), 260);
-  stage_.resize(852);
+  window_.resize(852);
   EXPECT_EQ(columns(), 3);
   EXPECT_EQ(cards()[0]->get_width(), (852 - 28) / 3);
   EXPECT_EQ(boundsIn(grid(), *cards()[1]).get_x(), (852 - 28) / 3 + 14);

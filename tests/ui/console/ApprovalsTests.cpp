@@ -38,11 +38,11 @@ class ApprovalsTest : public ::testing::Test {
   StatusPill& statePill(const std::string& title) { return *all<StatusPill>(card(title)).at(0); }
   StatusPill& riskPill(const std::string& title) { return *all<StatusPill>(card(title)).at(1); }
   ApprovalState state(std::size_t index) { return store_.approvals->at(index).state; }
-  const Gtk::Widget* focused() { return stage_.window().get_focus(); }
+  const Gtk::Widget* focused() { return window_.get_focus(); }
 
   WorkspaceStore store_;
   ApprovalsView view_{store_};
-  TestWindow stage_{view_, 852};
+  TestWindow window_{view_, 852};
 };
 
 TEST_F(ApprovalsTest, ShowsEveryGateOfTheSampleWorkspaceWithItsChecksInOrder) {
@@ -200,11 +200,11 @@ TEST(Approvals, TheFocusLeavesForAnotherControlOfTheWindowAfterTheLastDecision) 
   auto* elsewhere = button("Elsewhere", ButtonStyle::bordered, [] {});
   auto* view = Gtk::make_managed<ApprovalsView>(store);
   auto* column = vstack(0, {elsewhere, stretched(view)});
-  TestWindow stage(*column, 852);
+  TestWindow window(*column, 852);
   buttonNamed(*view, "Approve")->grab_focus();
   click(*buttonNamed(*view, "Approve"));
   drawFrame(*column);
-  EXPECT_EQ(stage.window().get_focus(), elsewhere);
+  EXPECT_EQ(window.get_focus(), elsewhere);
 }
 
 } // namespace

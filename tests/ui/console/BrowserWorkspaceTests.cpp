@@ -30,14 +30,14 @@ class BrowserWorkspaceTest : public ::testing::Test {
   }
   Color pixelAt(Gtk::Widget& widget, int x, int y) {
     const auto bounds = boundsIn(view_, widget);
-    return stage_.pixel(bounds.get_x() + x, bounds.get_y() + y);
+    return window_.pixel(bounds.get_x() + x, bounds.get_y() + y);
   }
   Color centre(Gtk::Widget& widget) {
     return pixelAt(widget, widget.get_width() / 2, widget.get_height() / 2);
   }
 
   BrowserWorkspaceView view_;
-  TestWindow stage_{view_, 852};
+  TestWindow window_{view_, 852};
 };
 
 Color over(const Color& ground, const Color& colour, double opacity) {
@@ -95,14 +95,14 @@ TEST_F(BrowserWorkspaceTest, OnlyTheFirstMessageHasTheGoldGroundAndTheGoldDot) {
 }
 
 TEST_F(BrowserWorkspaceTest, TheMockIsNeverNarrowerThan520PointsNorTheNotesThan300) {
-  stage_.resize(600);
+  window_.resize(600);
   EXPECT_EQ(view_.get_width(), 520 + 18 + 300);
   EXPECT_EQ(mock().get_width(), 520);
   EXPECT_EQ(notes().get_width(), 300);
 }
 
 TEST_F(BrowserWorkspaceTest, TheMockTakesTheWidthThatIsLeftOver) {
-  stage_.resize(952);
+  window_.resize(952);
   EXPECT_EQ(mock().get_width(), 952 - 18 - 300);
   EXPECT_EQ(notes().get_width(), 300);
   EXPECT_EQ(boundsIn(view_, notes()).get_y(), boundsIn(view_, mock()).get_y());

@@ -30,14 +30,14 @@ class ConnectorsTest : public ::testing::Test {
   }
   bool isSwitchShown(std::size_t index, bool isOn) {
     auto& toggle = switchOf(index);
-    return waitUntil([&] { return toggle.get_active() == isOn && toggle.get_state() == isOn; });
+    return eventually([&] { return toggle.get_active() == isOn && toggle.get_state() == isOn; });
   }
 
   static constexpr std::size_t gmail = 0, stripe = 4, browser = 9;
 
   WorkspaceStore store_;
   ConnectorsView view_{store_};
-  TestWindow stage_{view_, 852};
+  TestWindow window_{view_, 852};
 };
 
 TEST_F(ConnectorsTest, ShowsTheHeaderAndEveryConnectorInTheStoresOrder) {
@@ -97,7 +97,7 @@ TEST_F(ConnectorsTest, AFlipRedrawsTheCardInPlaceAndKeepsTheFocus) {
   before->grab_focus();
   flip(stripe);
   EXPECT_EQ(&switchOf(stripe), before);
-  EXPECT_EQ(stage_.window().get_focus(), before);
+  EXPECT_EQ(window_.get_focus(), before);
 }
 
 TEST_F(ConnectorsTest, AChangeFromElsewhereMovesTheSwitchAndFlipsNothing) {
@@ -132,7 +132,7 @@ TEST_F(ConnectorsTest, TheIconTileIsASoftSquareThatKeepsTheConnectorsToneInBothS
   EXPECT_EQ(tile->get_height(), 38);
   EXPECT_EQ(icon->get_icon_name(), "creditcard.fill-symbolic");
   const auto bounds = boundsIn(view_, *tile);
-  const auto corner = [&] { return stage_.pixel(bounds.get_x() + 5, bounds.get_y() + 5); };
+  const auto corner = [&] { return window_.pixel(bounds.get_x() + 5, bounds.get_y() + 5); };
   const auto fill = corner();
   EXPECT_THAT(fill, Not(IsColor(QuorvelBrand::panel)));
   EXPECT_THAT(inkOf(*icon), IsColor(QuorvelBrand::blue));
@@ -148,9 +148,9 @@ TEST_F(ConnectorsTest, ColumnsAreAtLeast230PointsWide) {
       count += boundsIn(grid(), card(i)).get_y() == 0;
     return count;
   };
-  stage_.resize(473);
+  window_.resize(473);
   EXPECT_EQ(columns(), 1);
-  stage_.resize(474);
+  window_.resize(474);
   EXPECT_EQ(columns(), 2);
   EXPECT_EQ(card(0).get_width(), 230);
 }

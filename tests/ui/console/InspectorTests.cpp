@@ -35,7 +35,7 @@ class InspectorTest : public ::testing::Test {
 
   WorkspaceStore store_;
   InspectorPanel inspector_{store_};
-  TestWindow stage_{inspector_, 320};
+  TestWindow window_{inspector_, 320};
 };
 
 TEST_F(InspectorTest, ShowsTheSampleWorkspaceFromTheHeaderToTheOldestEntry) {
@@ -200,7 +200,7 @@ TEST_F(InspectorTest, AFiguresBadgeIsADotInAPaleCircle) {
   EXPECT_EQ(dot.get_width(), 8);
   EXPECT_EQ(dot.get_x(), circle.get_x() + 8);
   EXPECT_EQ(dot.get_y(), circle.get_y() + 8);
-  EXPECT_THAT(stage_.pixel(dot.get_x() + 4, dot.get_y() + 4), IsColor(QuorvelBrand::blue));
+  EXPECT_THAT(window_.pixel(dot.get_x() + 4, dot.get_y() + 4), IsColor(QuorvelBrand::blue));
 }
 
 TEST_F(InspectorTest, ADotStandsLevelWithTheFirstLineOfItsEntry) {
@@ -214,9 +214,9 @@ TEST_F(InspectorTest, ADotStandsLevelWithTheFirstLineOfItsEntry) {
 
 TEST_F(InspectorTest, TheColumnIsFilledToTheFootAndItsContentStandsAtTheTop) {
   const int headerAt = bounds(*labelled(inspector_, "Command Center")).get_y();
-  stage_.resize(320, 1100);
+  window_.resize(320, 1100);
   EXPECT_EQ(bounds(*labelled(inspector_, "Command Center")).get_y(), headerAt);
-  EXPECT_THAT(stage_.pixel(160, 1095), IsColor(Color{0.03, 0.031, 0.033}));
+  EXPECT_THAT(window_.pixel(160, 1095), IsColor(Color{0.03, 0.031, 0.033}));
 }
 
 } // namespace

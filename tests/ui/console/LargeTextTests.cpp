@@ -48,7 +48,7 @@ TEST_P(LargeTextTest, NoTextIsCutAndNoneOverlapsAnother) {
   const TextScale scale(factor);
   Models models;
   auto* view = screen.make(models);
-  TestWindow stage(*view, width);
+  TestWindow window(*view, width);
   EXPECT_EQ(view->get_width(), width) << "the screen would stick out of its column";
   EXPECT_THAT(cutTexts(*view), IsEmpty());
   EXPECT_THAT(overlappingTexts(*view), IsEmpty());

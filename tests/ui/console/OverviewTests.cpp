@@ -23,9 +23,9 @@ class OverviewTest : public ::testing::Test {
   }
   /// Leaves the command centre for another section and comes back to it.
   void leaveAndComeBack() {
-    stage_.reset();
+    window_.reset();
     view_ = std::make_unique<OverviewView>(store_);
-    stage_ = std::make_unique<TestWindow>(*view_, 852);
+    window_ = std::make_unique<TestWindow>(*view_, 852);
   }
 
   Gtk::Widget& cardWith(const std::string& text) {
@@ -55,7 +55,7 @@ class OverviewTest : public ::testing::Test {
 
   WorkspaceStore store_;
   std::unique_ptr<OverviewView> view_ = std::make_unique<OverviewView>(store_);
-  std::unique_ptr<TestWindow> stage_ = std::make_unique<TestWindow>(*view_, 852);
+  std::unique_ptr<TestWindow> window_ = std::make_unique<TestWindow>(*view_, 852);
 };
 
 TEST_F(OverviewTest, TheTilesReadThreeTwoFourAndSevenWithTheSampleWorkspace) {
@@ -103,7 +103,7 @@ TEST_F(OverviewTest, NewRequestDoesWhatSendDoes) {
   press("New Request");
   WorkspaceStore other;
   OverviewView otherView(other);
-  TestWindow stage(otherView, 852);
+  TestWindow window(otherView, 852);
   click(*buttonNamed(otherView, "Send request"));
   EXPECT_EQ(withoutIds(store_), withoutIds(other));
   EXPECT_EQ(store_.requests->size(), 5U);
@@ -129,7 +129,7 @@ TEST_F(OverviewTest, ReviewOnTheApprovalSnippetIsALabelAndNoButton) {
   const auto inside = boundsIn(*review->get_parent(), *review);
   EXPECT_EQ(inside.get_x(), 18);
   EXPECT_EQ(inside.get_y(), 10);
-  EXPECT_THAT(stage_->pixel(plate.get_x() + 6, plate.get_y() + 6), IsColor(QuorvelBrand::control));
+  EXPECT_THAT(window_->pixel(plate.get_x() + 6, plate.get_y() + 6), IsColor(QuorvelBrand::control));
 }
 
 TEST_F(OverviewTest, TheThreadIsFixedTextThatDoesNotGrowWhenAMessageIsSent) {
@@ -154,8 +154,8 @@ TEST_F(OverviewTest, AnAgentsBubbleStandsAtTheLeftAndTheUsersAtTheRight) {
   EXPECT_LE(agent.get_x() + agent.get_width(), card.get_x() + card.get_width() - 18 - 72);
   EXPECT_EQ(user.get_x() + user.get_width(), card.get_x() + card.get_width() - 18);
   EXPECT_GE(user.get_x(), card.get_x() + 18 + 72);
-  EXPECT_THAT(stage_->pixel(user.get_x() + 8, user.get_y() + 8), IsColor(Color{0.02, 0.105, 0.22}));
-  EXPECT_THAT(stage_->pixel(agent.get_x() + 8, agent.get_y() + 8), IsColor(QuorvelBrand::panelRaised));
+  EXPECT_THAT(window_->pixel(user.get_x() + 8, user.get_y() + 8), IsColor(Color{0.02, 0.105, 0.22}));
+  EXPECT_THAT(window_->pixel(agent.get_x() + 8, agent.get_y() + 8), IsColor(QuorvelBrand::panelRaised));
 }
 
 TEST_F(OverviewTest, TheRoleOfABubbleHasTheToneOfItsAgentAndTheUsersIsWhite) {
@@ -187,7 +187,7 @@ TEST_F(OverviewTest, ARefreshKeepsTheDraftAndTheFocusInTheField) {
   store_.toggleConnector(store_.connectors->front());
   draw();
   EXPECT_EQ(draft().get_text(), "Half a");
-  EXPECT_TRUE(stage_->window().get_focus()->is_ancestor(draft()));
+  EXPECT_TRUE(window_->get_focus()->is_ancestor(draft()));
 }
 
 TEST_F(OverviewTest, TheDraftIsPaddedByTwelveAndTenPointsAndTheSendButtonIsRound) {
@@ -247,7 +247,7 @@ TEST_F(OverviewTest, AnActivityRowHasABarOfSevenByTwentyEightInItsTone) {
   const auto bar = bounds(*row->get_first_child());
   EXPECT_EQ(bar.get_width(), 7);
   EXPECT_EQ(bar.get_height(), 28);
-  EXPECT_THAT(stage_->pixel(bar.get_x() + 3, bar.get_y() + 14), IsColor(color(AccentTone::slate)));
+  EXPECT_THAT(window_->pixel(bar.get_x() + 3, bar.get_y() + 14), IsColor(color(AccentTone::slate)));
   const auto timestamp = bounds(*labelled(*view_, "38 min ago"));
   EXPECT_EQ(timestamp.get_x() + timestamp.get_width(), bounds(*row).get_x() + bounds(*row).get_width());
 }
@@ -276,13 +276,13 @@ TEST_F(OverviewTest, ALongRequestTitleStaysOnOneLineAndTheArrangementAsItIs) {
 }
 
 TEST_F(OverviewTest, TheWorkAreaStandsSideBySideDownToTheWidthItNeedsAndBelowThatStacks) {
-  stage_->resize(420 + 18 + 340);
+  window_->resize(420 + 18 + 340);
   EXPECT_EQ(bounds(thread()).get_width(), 420);
   EXPECT_EQ(bounds(queue()).get_x(), 438);
   EXPECT_EQ(bounds(queue()).get_width(), 340);
   EXPECT_EQ(bounds(queue()).get_y(), bounds(thread()).get_y());
   EXPECT_EQ(bounds(activity()).get_y(), bounds(queue()).get_y() + bounds(queue()).get_height() + 18);
-  stage_->resize(420 + 18 + 340 - 1);
+  window_->resize(420 + 18 + 340 - 1);
   EXPECT_EQ(bounds(thread()).get_width(), 777);
   EXPECT_EQ(bounds(queue()).get_x(), 0);
   EXPECT_EQ(bounds(queue()).get_width(), 777);
@@ -295,18 +295,18 @@ TEST_F(OverviewTest, TheHeroShowsItsLargeMarkExactlyAsLongAsItsNaturalWidthFits)
   copy->measure(Gtk::Orientation::HORIZONTAL, -1, least, natural, ignored, ignored);
   const int needed = 24 + natural + 28 + 24 + 28 + 104 + 24;
   EXPECT_LE(needed, 852) << "the console's narrowest centre column has the wide form";
-  stage_->resize(needed);
+  window_->resize(needed);
   EXPECT_THAT(shownMarks(), ElementsAre(104));
-  stage_->resize(needed - 1);
+  window_->resize(needed - 1);
   EXPECT_THAT(shownMarks(), ElementsAre(74));
 }
 
 TEST_F(OverviewTest, TheTilesStandInFourColumnsDownTo714PointsAndInFewerBelow) {
   const auto rowOf = [&](std::size_t tile) { return bounds(*all<MetricTile>(*view_).at(tile)).get_y(); };
-  stage_->resize(4 * 168 + 3 * 14);
+  window_->resize(4 * 168 + 3 * 14);
   EXPECT_EQ(rowOf(3), rowOf(0));
   EXPECT_EQ(bounds(*all<MetricTile>(*view_).at(1)).get_x(), 168 + 14);
-  stage_->resize(4 * 168 + 3 * 14 - 1);
+  window_->resize(4 * 168 + 3 * 14 - 1);
   EXPECT_EQ(rowOf(2), rowOf(0));
   EXPECT_EQ(rowOf(3), rowOf(0) + all<MetricTile>(*view_).at(0)->get_height() + 14);
 }

@@ -61,7 +61,7 @@ class PricingTest : public ::testing::Test {
 
   WorkspaceStore store_;
   PricingView view_{store_};
-  TestWindow stage_{view_, 852};
+  TestWindow window_{view_, 852};
 };
 
 TEST_F(PricingTest, ShowsTheHeaderThePlansInOrderAndTheComparison) {
@@ -135,13 +135,13 @@ TEST_F(PricingTest, PressingAButtonDoesNothingAtAll) {
 }
 
 TEST_F(PricingTest, ANarrowWindowHasOneColumnAndAWideOneShowsFourCardsSideBySide) {
-  stage_.resize(473);
+  window_.resize(473);
   EXPECT_EQ(columns(), 1);
-  stage_.resize(474);
+  window_.resize(474);
   EXPECT_EQ(columns(), 2);
-  stage_.resize(852);
+  window_.resize(852);
   EXPECT_EQ(columns(), 3);
-  stage_.resize(4 * 230 + 3 * 14);
+  window_.resize(4 * 230 + 3 * 14);
   EXPECT_EQ(columns(), 4);
   EXPECT_EQ(cards()[0]->get_width(), 230);
 }

@@ -60,7 +60,7 @@ class RequestsTest : public ::testing::Test {
 
   WorkspaceStore store_;
   RequestsView view_{store_};
-  TestWindow stage_{view_, 852};
+  TestWindow window_{view_, 852};
 };
 
 TEST_F(RequestsTest, ShowsEveryRequestOfTheSampleWorkspaceInOrder) {
@@ -104,7 +104,7 @@ TEST_F(RequestsTest, ALitStepHasItsToneAndADarkOneTheRaisedPanelWithDimmedText) 
   EXPECT_THAT(inkOf(*labelled(view_, "Drafted")), IsColor(QuorvelBrand::green));
   EXPECT_LT(inkOf(*labelled(view_, "Review")).alpha, 1) << "dimmed";
   const auto dark = bounds(*pills[2]);
-  EXPECT_THAT(stage_.pixel(dark.get_x() + 30, dark.get_y() + 4), IsColor(QuorvelBrand::panelRaised));
+  EXPECT_THAT(window_.pixel(dark.get_x() + 30, dark.get_y() + 4), IsColor(QuorvelBrand::panelRaised));
   EXPECT_TRUE(pills[2]->has_css_class("tone-gold"));
   EXPECT_TRUE(pills[3]->has_css_class("tone-slate"));
 }
@@ -184,7 +184,7 @@ TEST(Requests, TenThousandNewOnesLeaveEveryListWholeAndOnlyTheRowsNearSightBuilt
   auto* view = Gtk::make_managed<RequestsView>(store);
   Gtk::ScrolledWindow scroller;
   scroller.set_child(*padded(28, view));
-  TestWindow stage(scroller, 908, 760);
+  TestWindow window(scroller, 908, 760);
   for (int i = 0; i < 10'000; ++i)
     store.createRequest();
   drawFrame(scroller);
@@ -213,7 +213,7 @@ TEST(Requests, AnAgentKeepsToItsLineInLargeTextAndTheSummaryWraps) {
   const TextScale large(1.5);
   WorkspaceStore store;
   RequestsView view(store);
-  TestWindow stage(view, 852);
+  TestWindow window(view, 852);
   for (const auto& item : *store.requests)
     EXPECT_EQ(labelled(view, item.agent)->get_layout()->get_line_count(), 1) << item.agent;
 }

@@ -35,7 +35,7 @@ class RouterTest : public ::testing::Test {
   bool shows() {
     return dynamic_cast<Screen*>(&screen()) && all<Screen>(router_).size() == 1;
   }
-  Gtk::Widget* focus() { return stage_.window().get_focus(); }
+  Gtk::Widget* focus() { return window_.get_focus(); }
   bool isInView(const Gtk::Widget& widget) {
     const auto bounds = boundsIn(router_, widget);
     return bounds.get_y() >= 0 && bounds.get_y() + bounds.get_height() <= router_.get_height();
@@ -48,7 +48,7 @@ class RouterTest : public ::testing::Test {
   Gtk::Button& outside_ = *Gtk::make_managed<Gtk::Button>("Outside");
   DetailView& router_ = *Gtk::make_managed<DetailView>(store_, preferences_);
   HStack& row_ = *hstack(0, {&outside_, &router_});
-  TestWindow stage_{row_, 1000, 760};
+  TestWindow window_{row_, 1000, 760};
 };
 
 TEST_F(RouterTest, EverySectionHasItsOwnScreen) {
@@ -117,28 +117,28 @@ TEST_F(RouterTest, CreatingARequestShowsTheRequests) {
 }
 
 TEST_F(RouterTest, NoScrollBarIsEverShown) {
-  stage_.resize(1000, 300);
+  window_.resize(1000, 300);
   EXPECT_FALSE(router_.get_vscrollbar()->get_mapped());
   EXPECT_FALSE(router_.get_hscrollbar()->get_mapped());
 }
 
 TEST_F(RouterTest, KeysScrollAllTheSame) {
-  stage_.resize(1000, 300);
+  window_.resize(1000, 300);
   gboolean isHandled = FALSE;
   g_signal_emit_by_name(router_.gobj(), "scroll-child", GTK_SCROLL_PAGE_FORWARD, FALSE, &isHandled);
-  EXPECT_TRUE(waitUntil([&] { return scrolled() > 100; }));
+  EXPECT_TRUE(eventually([&] { return scrolled() > 100; }));
 }
 
 TEST_F(RouterTest, WhatTakesTheFocusScrollsIntoView) {
-  stage_.resize(1000, 300);
+  window_.resize(1000, 300);
   auto* field = all<Gtk::Entry>(screen()).front();
   ASSERT_FALSE(isInView(*field));
   field->grab_focus();
-  EXPECT_TRUE(waitUntil([&] { return isInView(*field); }));
+  EXPECT_TRUE(eventually([&] { return isInView(*field); }));
 }
 
 TEST_F(RouterTest, AScreenStartsAtItsTop) {
-  stage_.resize(1000, 300);
+  window_.resize(1000, 300);
   router_.get_vadjustment()->set_value(200);
   drawFrame(router_);
   ASSERT_EQ(scrolled(), 200);

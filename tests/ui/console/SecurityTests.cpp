@@ -35,7 +35,7 @@ class SecurityTest : public ::testing::Test {
     auto& target = switchOf(title);
     const bool before = target.get_state();
     gtk_widget_activate(GTK_WIDGET(target.gobj()));
-    ASSERT_TRUE(waitUntil([&] { return target.get_state() != before; }));
+    ASSERT_TRUE(eventually([&] { return target.get_state() != before; }));
   }
   bool isStoredOn(PreferenceKey key) { return Preferences(file_).isOn(key); }
   void setState(std::size_t index, ApprovalState state) {
@@ -48,7 +48,7 @@ class SecurityTest : public ::testing::Test {
   WorkspaceStore store_;
   Preferences preferences_{file_};
   SecurityView view_{store_, preferences_};
-  TestWindow stage_{view_, 852};
+  TestWindow window_{view_, 852};
 };
 
 constexpr const char* spend = "Ad spend changes";
@@ -101,10 +101,10 @@ TEST_F(SecurityTest, EachSwitchWritesItsOwnKeyAtOnceAndItsIconFollows) {
 TEST_F(SecurityTest, AFlipInAnotherWindowIsShownHere) {
   Preferences elsewhere(file_);
   elsewhere.set(PreferenceKey::requireApprovalForSpend, false);
-  ASSERT_TRUE(waitUntil([&] { return !switchOf(spend).get_state(); }));
+  ASSERT_TRUE(eventually([&] { return !switchOf(spend).get_state(); }));
   EXPECT_EQ(iconOf(spend), openLock);
   elsewhere.set(PreferenceKey::requireApprovalForSpend, true);
-  ASSERT_TRUE(waitUntil([&] { return switchOf(spend).get_state(); }));
+  ASSERT_TRUE(eventually([&] { return switchOf(spend).get_state(); }));
   EXPECT_EQ(iconOf(spend), closedShield);
 }
 
@@ -113,14 +113,14 @@ TEST_F(SecurityTest, AFlipInAnotherProgramIsShownHere) {
   std::string said;
   Glib::spawn_sync("", program, Glib::SpawnFlags::DEFAULT, {}, &said);
   ASSERT_EQ(said, "off\n");
-  ASSERT_TRUE(waitUntil([&] { return !switchOf(history).get_state(); }));
+  ASSERT_TRUE(eventually([&] { return !switchOf(history).get_state(); }));
   EXPECT_EQ(iconOf(history), openLock);
 }
 
 TEST_F(SecurityTest, AFlipHereReachesAnotherWindow) {
   const Preferences elsewhere(file_);
   flip(messages);
-  EXPECT_TRUE(waitUntil([&] { return !elsewhere.isOn(PreferenceKey::requireApprovalForCustomerMessages); }));
+  EXPECT_TRUE(eventually([&] { return !elsewhere.isOn(PreferenceKey::requireApprovalForCustomerMessages); }));
 }
 
 TEST_F(SecurityTest, TurningTheActivityHistoryOffChangesOnlyTheSwitchAndItsIcon) {
@@ -207,7 +207,7 @@ TEST_F(SecurityTest, TheIconsHaveTheTonesOfTheirGatesOnTilesOf42Points) {
 }
 
 TEST_F(SecurityTest, TheColumnsKeepTheirLeastWidths) {
-  stage_.resize(600);
+  window_.resize(600);
   EXPECT_EQ(toggles().get_width(), 420);
   EXPECT_EQ(profile().get_width(), 340 + 2 * 18);
   EXPECT_EQ(boundsIn(columns(), profile()).get_x(), 420 + 18);

@@ -36,17 +36,17 @@ class SidebarTest : public ::testing::Test {
   Gdk::Rectangle bounds(const Gtk::Widget& widget) { return boundsIn(sidebar_, widget); }
   /// What is drawn in a row's padding.
   Color groundOf(const Gtk::Widget& button) {
-    return stage_.pixel(bounds(button).get_x() - 6, bounds(button).get_y() - 4);
+    return window_.pixel(bounds(button).get_x() - 6, bounds(button).get_y() - 4);
   }
   Color leftOf(const Gtk::Widget& badge) {
     const auto place = bounds(badge);
-    return stage_.pixel(place.get_x() - 4, place.get_y() + place.get_height() / 2);
+    return window_.pixel(place.get_x() - 4, place.get_y() + place.get_height() / 2);
   }
   void draw() { drawFrame(sidebar_); }
 
   WorkspaceStore store_;
   SidebarView sidebar_{store_};
-  TestWindow stage_{sidebar_, 272, 760};
+  TestWindow window_{sidebar_, 272, 760};
 };
 
 TEST_F(SidebarTest, ShowsTheEightSectionsInOrderWithTheThreeBadgesOfTheSampleWorkspace) {
@@ -81,14 +81,14 @@ TEST_F(SidebarTest, PressingARowSelectsItsSectionAndNoOther) {
 
 TEST_F(SidebarTest, PressingTheSelectedRowAnnouncesAndChangesNothingVisible) {
   const auto textsBefore = texts(sidebar_);
-  const auto pictureBefore = stage_.picture();
+  const auto pictureBefore = window_.picture();
   int announcements = 0;
   store_.objectWillChange().connect([&] { ++announcements; });
   click(row(WorkspaceSection::overview));
   draw();
   EXPECT_EQ(announcements, 1);
   EXPECT_EQ(texts(sidebar_), textsBefore);
-  EXPECT_TRUE(stage_.picture() == pictureBefore);
+  EXPECT_TRUE(window_.picture() == pictureBefore);
 }
 
 TEST_F(SidebarTest, WithEveryApprovalDecidedTheApprovalsRowHasNoBadgeAtAll) {
@@ -239,10 +239,10 @@ TEST_F(SidebarTest, TabReachesNewChatAndThenEveryRowInOrder) {
   for (const auto section : allCases<WorkspaceSection>())
     expected.push_back(&row(section));
   expected.front()->grab_focus();
-  std::vector<Gtk::Widget*> reached{stage_.window().get_focus()};
+  std::vector<Gtk::Widget*> reached{window_.get_focus()};
   while (reached.size() < expected.size()) {
     sidebar_.child_focus(Gtk::DirectionType::TAB_FORWARD);
-    reached.push_back(stage_.window().get_focus());
+    reached.push_back(window_.get_focus());
   }
   EXPECT_EQ(reached, expected);
 }
@@ -252,15 +252,15 @@ TEST_F(SidebarTest, ARowKeepsTheFocusWhenItIsPressed) {
   plans.grab_focus();
   click(plans);
   draw();
-  EXPECT_EQ(stage_.window().get_focus(), &plans);
+  EXPECT_EQ(window_.get_focus(), &plans);
 }
 
 TEST_F(SidebarTest, InALowWindowTheBodyScrollsBelowTheHeadAndFollowsTheFocus) {
-  stage_.resize(272, 400);
+  window_.resize(272, 400);
   auto& plans = row(WorkspaceSection::pricing);
   EXPECT_GT(bounds(plans).get_y(), 400);
   plans.grab_focus();
-  EXPECT_TRUE(waitUntil([&] { return bounds(plans).get_y() + bounds(plans).get_height() <= 400; }));
+  EXPECT_TRUE(eventually([&] { return bounds(plans).get_y() + bounds(plans).get_height() <= 400; }));
   EXPECT_EQ(bounds(*labelled(sidebar_, "Quorvel")).get_x(), 18 + 38 + 12);
   EXPECT_LT(bounds(*buttonNamed(sidebar_, "+ New chat")).get_y(), 100);
 }

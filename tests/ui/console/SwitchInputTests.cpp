@@ -23,13 +23,13 @@ class SwitchInputTest : public ::testing::Test {
     return announcements_ / 2;
   }
   bool becomes(bool isOn) {
-    return waitUntil([&] { return isConnected() == isOn && switch_.get_state() == isOn; });
+    return eventually([&] { return isConnected() == isOn && switch_.get_state() == isOn; });
   }
 
   int announcements_ = 0;
   WorkspaceStore store_;
   ConnectorsView view_{store_};
-  TestWindow stage_{view_, 852};
+  TestWindow window_{view_, 852};
   Gtk::Switch& switch_ = *all<Gtk::Switch>(view_)[stripe];
 };
 
@@ -45,7 +45,7 @@ TEST_F(SwitchInputTest, AClickFlipsTheConnectorOnce) {
 TEST_F(SwitchInputTest, TwoClicksInQuickSuccessionFlipTheConnectorTwice) {
   clickOn(switch_);
   clickOn(switch_);
-  ASSERT_TRUE(waitUntil([&] { return announcements_ == 4; }));
+  ASSERT_TRUE(eventually([&] { return announcements_ == 4; }));
   EXPECT_TRUE(becomes(false));
   EXPECT_EQ(flips(), 2);
 }
@@ -60,7 +60,7 @@ TEST_F(SwitchInputTest, SpaceAndReturnFlipTheConnectorOnceEachAndTheFocusStays) 
   strikeKey("Return");
   ASSERT_TRUE(becomes(true));
   EXPECT_EQ(flips(), 3);
-  EXPECT_EQ(stage_.window().get_focus(), &switch_);
+  EXPECT_EQ(window_.get_focus(), &switch_);
 }
 
 TEST_F(SwitchInputTest, AHeldKeyFlipsTheConnectorOnce) {
@@ -71,9 +71,9 @@ TEST_F(SwitchInputTest, AHeldKeyFlipsTheConnectorOnce) {
   const auto keys = Gtk::EventControllerKey::create();
   keys->set_propagation_phase(Gtk::PropagationPhase::CAPTURE);
   keys->signal_key_pressed().connect([&](guint, guint, Gdk::ModifierType) { return ++presses < 0; }, false);
-  stage_.window().add_controller(keys);
+  window_.add_controller(keys);
   holdKey("space");
-  const bool hasRepeated = waitUntil([&] { return presses >= 4; });
+  const bool hasRepeated = eventually([&] { return presses >= 4; });
   releaseKey("space");
   ASSERT_TRUE(hasRepeated);
   ASSERT_TRUE(becomes(false));
@@ -88,12 +88,12 @@ TEST_F(SwitchInputTest, TabGoesFromSwitchToSwitchInTheOrderOfTheCards) {
   switches.front()->grab_focus();
   for (std::size_t i = 1; i < switches.size(); ++i) {
     strikeKey("Tab");
-    EXPECT_TRUE(waitUntil([&] { return stage_.window().get_focus() == switches[i]; })) << i;
+    EXPECT_TRUE(eventually([&] { return window_.get_focus() == switches[i]; })) << i;
   }
   drawFrame(view_);
   switches.front()->grab_focus();
   strikeKey("Tab");
-  EXPECT_TRUE(waitUntil([&] { return stage_.window().get_focus() == switches[1]; })) << "and again";
+  EXPECT_TRUE(eventually([&] { return window_.get_focus() == switches[1]; })) << "and again";
 }
 
 } // namespace

@@ -34,7 +34,7 @@ TEST(AdaptiveGrid, SharesTheWidthEquallyAndLeavesSpareColumnsEmpty) {
   auto* grid = Gtk::make_managed<AdaptiveGrid>(100, 10);
   auto* first = cell(*grid);
   auto* second = cell(*grid);
-  TestWindow stage(*grid, 340);
+  TestWindow window(*grid, 340);
   EXPECT_EQ(boundsIn(*grid, *first).get_width(), 106) << "three columns fit, two are filled";
   EXPECT_EQ(boundsIn(*grid, *second).get_x(), 116);
 }
@@ -44,7 +44,7 @@ TEST(AdaptiveGrid, ItsLastColumnEndsWhereTheGridDoes) {
   Gtk::Widget* last = nullptr;
   for (int i = 0; i < 4; ++i)
     last = cell(*grid);
-  TestWindow stage(*grid, 852);
+  TestWindow window(*grid, 852);
   const auto bounds = boundsIn(*grid, *last);
   EXPECT_EQ(bounds.get_x() + bounds.get_width(), 852);
 }
@@ -54,7 +54,7 @@ TEST(AdaptiveGrid, ACellKeepsItsHeightInTheMiddleOfItsRow) {
   auto* low = cell(*grid, 20);
   auto* high = cell(*grid, 60);
   auto* next = cell(*grid, 20);
-  TestWindow stage(*grid, 210);
+  TestWindow window(*grid, 210);
   EXPECT_EQ(boundsIn(*grid, *low).get_y(), 20);
   EXPECT_EQ(boundsIn(*grid, *low).get_height(), 20);
   EXPECT_EQ(boundsIn(*grid, *high).get_y(), 0);
@@ -65,9 +65,9 @@ TEST(AdaptiveGrid, FollowsTheWidth) {
   auto* grid = Gtk::make_managed<AdaptiveGrid>(100, 10);
   cell(*grid);
   auto* second = cell(*grid);
-  TestWindow stage(*grid, 210);
+  TestWindow window(*grid, 210);
   EXPECT_EQ(boundsIn(*grid, *second).get_y(), 0);
-  stage.resize(200);
+  window.resize(200);
   EXPECT_EQ(boundsIn(*grid, *second).get_y(), 30);
 }
 
@@ -76,7 +76,7 @@ TEST(AdaptiveGrid, WhereACellNeedsMoreThanTheMinimumAllColumnsGrowAndNoneOverlap
   auto* wide = cell(*grid);
   wide->set_size_request(130, 20);
   auto* second = cell(*grid);
-  TestWindow stage(*grid, 330);
+  TestWindow window(*grid, 330);
   EXPECT_EQ(grid->columnCount(330), 2) << "three of 130 would need 410";
   EXPECT_EQ(boundsIn(*grid, *wide).get_width(), 160);
   EXPECT_EQ(boundsIn(*grid, *second).get_x(), 170);

@@ -21,10 +21,10 @@ TEST(FirstThatFits, SwitchesExactlyWhereTheNaturalWidthStopsFitting) {
   auto* right = block(340, 70);
   auto* area = Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
       {Orientation::HORIZONTAL, 18, {left, right}}, {Orientation::VERTICAL, 18, {left, right}}});
-  TestWindow stage(*area, 778);
+  TestWindow window(*area, 778);
   EXPECT_EQ(boundsIn(*area, *right).get_x(), 438);
   EXPECT_EQ(area->get_height(), 70);
-  stage.resize(777);
+  window.resize(777);
   EXPECT_EQ(boundsIn(*area, *right).get_x(), 0);
   EXPECT_EQ(boundsIn(*area, *right).get_y(), 68);
 }
@@ -35,10 +35,10 @@ TEST(FirstThatFits, HidesWhatTheShownFormLeavesOut) {
   auto* small = block(74, 74);
   auto* hero = Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
       {Orientation::HORIZONTAL, 28, {text, large}}, {Orientation::HORIZONTAL, 8, {text, small}}});
-  TestWindow stage(*hero, 300);
+  TestWindow window(*hero, 300);
   EXPECT_TRUE(large->get_mapped());
   EXPECT_FALSE(small->get_mapped());
-  stage.resize(200);
+  window.resize(200);
   EXPECT_FALSE(large->get_mapped());
   EXPECT_TRUE(small->get_mapped());
 }
@@ -48,7 +48,7 @@ TEST(FirstThatFits, ExpandingMembersShareWhatIsLeft) {
   auto* right = stretched(block(100, 10));
   auto* area = Gtk::make_managed<FirstThatFits>(
       std::vector<FirstThatFits::Form>{{Orientation::HORIZONTAL, 20, {left, right}}});
-  TestWindow stage(*area, 320);
+  TestWindow window(*area, 320);
   EXPECT_EQ(left->get_width(), 150);
   EXPECT_EQ(boundsIn(*area, *right).get_x(), 170);
 }
@@ -59,11 +59,11 @@ TEST(FirstThatFits, AFormChangeKeepsTheFocus) {
   auto* other = block(300, 10);
   auto* area = Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
       {Orientation::HORIZONTAL, 0, {entry, other}}, {Orientation::VERTICAL, 0, {entry, other}}});
-  TestWindow stage(*area, 700);
+  TestWindow window(*area, 700);
   entry->grab_focus();
-  stage.resize(400);
-  ASSERT_NE(stage.window().get_focus(), nullptr);
-  EXPECT_TRUE(stage.window().get_focus()->is_ancestor(*entry));
+  window.resize(400);
+  ASSERT_NE(window.get_focus(), nullptr);
+  EXPECT_TRUE(window.get_focus()->is_ancestor(*entry));
 }
 
 } // namespace

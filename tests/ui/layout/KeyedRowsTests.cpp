@@ -71,10 +71,10 @@ TEST_F(KeyedRowsTest, OfTwoRecordsWithOneIdTheFirstCounts) {
 
 TEST_F(KeyedRowsTest, TheFocusSurvivesInsertingRemovingAndMoving) {
   show({{"a", "A"}, {"b", "B"}, {"c", "C"}});
-  TestWindow stage(container, 200);
+  TestWindow window(container, 200);
   rows.row("b")->grab_focus();
   show({{"n", "N"}, {"c", "C"}, {"b", "B"}});
-  EXPECT_EQ(stage.window().get_focus(), rows.row("b"));
+  EXPECT_EQ(window.get_focus(), rows.row("b"));
 }
 
 } // namespace

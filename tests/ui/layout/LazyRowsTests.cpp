@@ -39,7 +39,7 @@ std::deque<Record> records(int count, int height = 50) {
 
 /// A long list below a head, scrolled in a window 400 points high.
 struct LazyRowsTest : ::testing::Test {
-  ~LazyRowsTest() override { stage.reset(); }
+  ~LazyRowsTest() override { window.reset(); }
 
   void show(std::deque<Record> all, LazyGrid::Form form = {.spacing = 10}) {
     list = std::move(all);
@@ -49,8 +49,8 @@ struct LazyRowsTest : ::testing::Test {
     head->set_size_request(-1, 100);
     scroller.set_child(*padded(28, vstack(22, {head, column})));
     column->refresh();
-    stage = std::make_unique<TestWindow>(scroller, 500, 400);
-    stage->window().unset_focus();
+    window = std::make_unique<TestWindow>(scroller, 500, 400);
+    window->unset_focus();
     draw();
   }
   void refresh() {
@@ -94,7 +94,7 @@ struct LazyRowsTest : ::testing::Test {
   std::deque<Record> list;
   Gtk::ScrolledWindow scroller;
   LazyRows<Record, Row>* column = nullptr;
-  std::unique_ptr<TestWindow> stage;
+  std::unique_ptr<TestWindow> window;
 };
 
 TEST_F(LazyRowsTest, TheRowsInSightAreThereInTheFirstFrame) {
@@ -105,7 +105,7 @@ TEST_F(LazyRowsTest, TheRowsInSightAreThereInTheFirstFrame) {
       });
   scroller.set_child(*column);
   column->refresh();
-  stage = std::make_unique<TestWindow>(scroller, 500, 400);
+  window = std::make_unique<TestWindow>(scroller, 500, 400);
   expectSightIsFilled();
   EXPECT_LT(rows().size(), 40U);
 }
@@ -212,12 +212,12 @@ TEST_F(LazyRowsTest, ARowWithTheFocusStaysHoweverFarItIsScrolledAway) {
   auto* focused = row("2");
   focused->grab_focus();
   scrollToEnd();
-  EXPECT_EQ(stage->window().get_focus(), focused);
+  EXPECT_EQ(window->get_focus(), focused);
   EXPECT_EQ(row("2"), focused);
   EXPECT_LT(rows().size(), 20U);
   list.push_front({"new"});
   refresh();
-  EXPECT_EQ(stage->window().get_focus(), focused);
+  EXPECT_EQ(window->get_focus(), focused);
   scrollTo(0);
   EXPECT_EQ(rows().front()->id, "new");
   EXPECT_EQ(rows().at(3), focused) << "and it is back in its place";
@@ -225,7 +225,7 @@ TEST_F(LazyRowsTest, ARowWithTheFocusStaysHoweverFarItIsScrolledAway) {
 
 TEST_F(LazyRowsTest, FollowsAnotherWidthAndHeightOfItsWindow) {
   show(records(10'000));
-  stage->resize(300, 900);
+  window->resize(300, 900);
   draw();
   EXPECT_EQ(row("0")->get_width(), 300 - 56);
   expectSightIsFilled();
@@ -317,7 +317,7 @@ TEST(LazyRows, OutsideAViewportAllRowsExist) {
   LazyRows<Record, Row> column(list, LazyGrid::Form{.spacing = 10},
                                [](const Record& record) { return Gtk::make_managed<Row>(record); });
   column.refresh();
-  TestWindow stage(column, 300);
+  TestWindow window(column, 300);
   drawFrame(column);
   EXPECT_EQ(all<Row>(column).size(), 60U);
 }

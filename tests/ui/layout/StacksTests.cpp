@@ -19,14 +19,14 @@ TEST(Stacks, ASpacerTakesWhatItsNeighboursLeave) {
   auto* first = block(30, 10);
   auto* last = block(40, 10);
   auto* stack = hstack(12, {first, hspacer(), last});
-  TestWindow stage(*stack, 300);
+  TestWindow window(*stack, 300);
   EXPECT_EQ(boundsIn(*stack, *first).get_x(), 0);
   EXPECT_EQ(boundsIn(*stack, *last).get_x(), 260);
 }
 
 TEST(Stacks, ASpacerKeepsItsMinimumWhereThereIsNoRoom) {
   auto* stack = hstack(10, {block(30, 10), hspacer(24), block(40, 10)});
-  TestWindow stage(*stack, 10);
+  TestWindow window(*stack, 10);
   EXPECT_EQ(stack->get_width(), 30 + 10 + 24 + 10 + 40);
 }
 
@@ -34,7 +34,7 @@ TEST(Stacks, ALeadingChildKeepsItsWidthAndAStretchedOneGetsItAll) {
   auto* narrow = block(50, 10);
   auto* wide = stretched(block(50, 10));
   auto* stack = vstack(8, {narrow, wide});
-  TestWindow stage(*stack, 200);
+  TestWindow window(*stack, 200);
   EXPECT_EQ(boundsIn(*stack, *narrow).get_width(), 50);
   EXPECT_EQ(boundsIn(*stack, *wide).get_width(), 200);
   EXPECT_EQ(boundsIn(*stack, *wide).get_y(), 18);
@@ -46,7 +46,7 @@ TEST(Stacks, ChildrenOfARowStandAtItsAlignment) {
   auto* low = block(10, 10);
   auto* lowered = hstack(0, {low, block(10, 50)}, VerticalAlignment::bottom);
   auto* both = vstack(0, {stack, lowered});
-  TestWindow stage(*both, 100);
+  TestWindow window(*both, 100);
   EXPECT_EQ(boundsIn(*stack, *top).get_y(), 0);
   EXPECT_EQ(boundsIn(*lowered, *low).get_y(), 40);
 }
@@ -56,12 +56,12 @@ TEST(Stacks, ARowOfEqualWidthsGivesEachChildTheSame) {
   auto* last = stretched(block(50, 10));
   auto* stack = hstack(10, {first, last});
   stack->setEqualWidths();
-  TestWindow stage(*stack, 211);
+  TestWindow window(*stack, 211);
   EXPECT_EQ(first->get_width(), 100);
   EXPECT_EQ(last->get_width(), 101);
   EXPECT_EQ(boundsIn(*stack, *last).get_x(), 110);
   EXPECT_EQ(widthRequest(*first).natural, 30);
-  stage.resize(20);
+  window.resize(20);
   EXPECT_EQ(stack->get_width(), 110) << "none is narrower than the widest needs";
 }
 
@@ -95,7 +95,7 @@ TEST(Stacks, ARowIsMirroredWhereTheWritingIs) {
   auto* last = block(40, 10);
   auto* stack = hstack(12, {first, hspacer(), last});
   stack->set_direction(Gtk::TextDirection::RTL);
-  TestWindow stage(*stack, 300);
+  TestWindow window(*stack, 300);
   EXPECT_EQ(boundsIn(*stack, *first).get_x(), 270);
   EXPECT_EQ(boundsIn(*stack, *last).get_x(), 0);
 }
@@ -105,7 +105,7 @@ TEST(Stacks, AHiddenChildOfARowTakesNoRoom) {
   hidden->set_visible(false);
   auto* last = block(40, 10);
   auto* stack = hstack(12, {block(30, 10), hidden, last});
-  TestWindow stage(*stack, 300);
+  TestWindow window(*stack, 300);
   EXPECT_EQ(boundsIn(*stack, *last).get_x(), 42);
 }
 
@@ -115,7 +115,7 @@ TEST(Frame, KeepsItsWidthWhateverTheChildWouldLike) {
   label->set_wrap(true);
   auto* frame = Gtk::make_managed<Frame>(Frame::Size{.width = 120}, *label);
   auto* stack = hstack(0, {frame, hspacer()});
-  TestWindow stage(*stack, 600);
+  TestWindow window(*stack, 600);
   EXPECT_EQ(frame->get_width(), 120);
   EXPECT_GT(frame->get_height(), 30) << "the text wraps inside the frame";
 }
@@ -124,7 +124,7 @@ TEST(Frame, CentresASmallerChild) {
   auto* child = block(10, 10);
   auto* frame = framed({.width = 42, .height = 42}, child);
   auto* stack = hstack(0, {frame});
-  TestWindow stage(*stack, 100);
+  TestWindow window(*stack, 100);
   EXPECT_EQ(frame->get_height(), 42);
   EXPECT_EQ(boundsIn(*frame, *child).get_x(), 16);
   EXPECT_EQ(boundsIn(*frame, *child).get_y(), 16);
@@ -140,7 +140,7 @@ Gtk::Label* sentence() {
 TEST(Frame, WithALeastWidthAsksForNoMoreHoweverLongItsTextIs) {
   auto* frame = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 120}, *sentence());
   auto* stack = hstack(0, {frame, hspacer()});
-  TestWindow stage(*stack, 600);
+  TestWindow window(*stack, 600);
   EXPECT_EQ(frame->get_width(), 120);
   EXPECT_EQ(heightRequest(*frame, -1).minimum, heightRequest(*frame, 120).minimum);
 }
@@ -148,14 +148,14 @@ TEST(Frame, WithALeastWidthAsksForNoMoreHoweverLongItsTextIs) {
 TEST(Frame, WithALeastWidthIsAsWideAsAChildThatCannotDoWithIt) {
   auto* frame = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 120}, *block(200, 10));
   auto* stack = hstack(0, {frame, hspacer()});
-  TestWindow stage(*stack, 600);
+  TestWindow window(*stack, 600);
   EXPECT_EQ(frame->get_width(), 200);
 }
 
 TEST(Frame, WithALeastWidthTakesMoreWhereItExpands) {
   auto* frame = stretched(Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 120}, *block(10, 10)));
   auto* stack = hstack(0, {frame});
-  TestWindow stage(*stack, 600);
+  TestWindow window(*stack, 600);
   EXPECT_EQ(frame->get_width(), 600);
 }
 
@@ -163,7 +163,7 @@ TEST(Frame, IsAsHighAsItsRowWhereItsChildExpandsDownwards) {
   auto* column = vstack(0, {block(10, 10), vspacer()});
   auto* frame = Gtk::make_managed<Frame>(Frame::Size{.width = 50}, *column);
   auto* stack = hstack(0, {frame, block(10, 80)});
-  TestWindow stage(*stack, 200);
+  TestWindow window(*stack, 200);
   EXPECT_EQ(frame->get_height(), 80);
 }
 

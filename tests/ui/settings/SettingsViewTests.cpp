@@ -1,5 +1,6 @@
 #include "brand/QuorvelBrand.h"
 #include "settings/SettingsView.h"
+#include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 
 #include <filesystem>
@@ -14,16 +15,9 @@ namespace fs = std::filesystem;
 
 struct SettingsViewTest : ::testing::Test {
   SettingsViewTest() {
-    std::string pattern = (fs::temp_directory_path() / "quorvel-settings-XXXXXX").string();
-    folder = g_mkdtemp(pattern.data());
-    file = folder / "preferences.ini";
     preferences = std::make_unique<Preferences>(file);
     view = Gtk::make_managed<SettingsView>(*preferences);
-    stage = std::make_unique<TestWindow>(*view, 520);
-  }
-  ~SettingsViewTest() override {
-    stage.reset();
-    fs::remove_all(folder);
+    window = std::make_unique<TestWindow>(*view, 520);
   }
 
   std::string written() const {
@@ -37,7 +31,7 @@ struct SettingsViewTest : ::testing::Test {
   void flip(const Glib::ustring& title) { gtk_widget_activate(GTK_WIDGET(toggle(title).gobj())); }
   /// A switch that follows its value slides there.
   static bool comesToRest(Gtk::Switch& moving, bool isOn) {
-    return waitUntil([&] { return moving.get_active() == isOn; });
+    return eventually([&] { return moving.get_active() == isOn; });
   }
 
   /// A press of the pointer on the row of this title that is let go at this place of the row.
@@ -48,10 +42,11 @@ struct SettingsViewTest : ::testing::Test {
         g_signal_emit_by_name(click->gobj(), "released", 1, x, y);
   }
 
-  fs::path folder, file;
+  const TemporaryFolder folder;
+  const fs::path file = folder.path / "preferences.ini";
   std::unique_ptr<Preferences> preferences;
   SettingsView* view;
-  std::unique_ptr<TestWindow> stage;
+  std::unique_ptr<TestWindow> window;
 };
 
 const std::vector<std::pair<const char*, PreferenceKey>> toggles{
@@ -113,7 +108,7 @@ TEST_F(SettingsViewTest, ASwitchFollowsAChangeMadeByAnotherProgram) {
 
 TEST_F(SettingsViewTest, TwoViewsOfTheSamePreferencesAgree) {
   auto* other = Gtk::make_managed<SettingsView>(*preferences);
-  TestWindow otherStage(*other, 520);
+  TestWindow otherWindow(*other, 520);
   flip("Ad spend changes");
   EXPECT_TRUE(comesToRest(*all<Gtk::Switch>(*other)[2], false));
 }
@@ -137,7 +132,7 @@ TEST_F(SettingsViewTest, ASwitchIsFlippedByItsActivationAsSpaceAndReturnDo) {
   inspector.grab_focus();
   EXPECT_TRUE(inspector.is_focus());
   gtk_widget_activate(GTK_WIDGET(inspector.gobj()));
-  EXPECT_TRUE(waitUntil([&] { return !preferences->isOn(PreferenceKey::showInspector); }));
+  EXPECT_TRUE(eventually([&] { return !preferences->isOn(PreferenceKey::showInspector); }));
   EXPECT_TRUE(inspector.is_focus());
 }
 
@@ -153,13 +148,13 @@ TEST_F(SettingsViewTest, ASwitchIsNamedByItsRowsTitle) {
 TEST_F(SettingsViewTest, TheFocusIsShownAroundTheSwitchAloneAndNotAroundItsContainers) {
   auto& inspector = toggle("Show inspector");
   inspector.grab_focus();
-  stage->window().set_focus_visible(true);
+  window->set_focus_visible(true);
   const auto switchBounds = boundsIn(*view, inspector);
   const int middle = switchBounds.get_y() + switchBounds.get_height() / 2;
-  EXPECT_TRUE(waitUntil([&] {
-    return ::testing::Value(stage->pixel(switchBounds.get_x() - 2, middle), IsColor(QuorvelBrand::blue));
+  EXPECT_TRUE(eventually([&] {
+    return ::testing::Value(window->pixel(switchBounds.get_x() - 2, middle), IsColor(QuorvelBrand::blue));
   })) << "the theme lets the outline grow";
-  EXPECT_THAT(stage->pixel(22, middle), IsColor(QuorvelBrand::background));
+  EXPECT_THAT(window->pixel(22, middle), IsColor(QuorvelBrand::background));
 }
 
 TEST_F(SettingsViewTest, TheFormIs520PointsWideWith24PointsOfPadding) {

@@ -1,8 +1,8 @@
 #include "engine/downloads.h"
+#include "support/TemporaryFolder.h"
 
 #include <filesystem>
 #include <fstream>
-#include <glib.h>
 #include <gtest/gtest.h>
 
 namespace quorvel {
@@ -11,19 +11,14 @@ namespace {
 namespace fs = std::filesystem;
 
 struct ReserveFileTest : ::testing::Test {
-  ReserveFileTest() {
-    std::string pattern = (fs::temp_directory_path() / "quorvel-downloads-XXXXXX").string();
-    folder = g_mkdtemp(pattern.data());
-  }
-  ~ReserveFileTest() override { fs::remove_all(folder); }
-
   std::string reserved(const std::string& name) {
     const auto path = reserveFile(folder, name);
     EXPECT_TRUE(path && fs::exists(*path)) << name;
     return path ? fs::path(*path).lexically_relative(folder).string() : "";
   }
 
-  fs::path folder;
+  const tests::TemporaryFolder temporary;
+  const fs::path folder = temporary.path;
 };
 
 TEST_F(ReserveFileTest, AFreeNameIsUsedAsItIs) {

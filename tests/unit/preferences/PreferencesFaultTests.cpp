@@ -50,7 +50,7 @@ struct Umask {
 /// Before the system's library would notice, which looks for a missing folder every four seconds.
 template <class Condition>
 bool promptly(Condition holds) {
-  return eventually(holds, 3'000);
+  return eventually(holds, ::testing::Eq(true), std::chrono::seconds(3));
 }
 
 // ---- Encodings -------------------------------------------------------------------------------------------

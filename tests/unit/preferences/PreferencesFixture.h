@@ -1,6 +1,7 @@
 #pragma once
 
 #include "preferences/Preferences.h"
+#include "support/TemporaryFolder.h"
 
 #include <csignal>
 #include <filesystem>
@@ -18,22 +19,7 @@ namespace quorvel {
 
 namespace fs = std::filesystem;
 using Key = PreferenceKey;
-
-/// Runs the main loop until the condition holds; false if it does not within the time.
-template <class Condition>
-bool eventually(Condition holds, unsigned milliseconds = 10'000) {
-  bool isOver = false;
-  auto deadline = Glib::signal_timeout().connect(
-      [&isOver] {
-        isOver = true;
-        return true;
-      },
-      milliseconds);
-  while (!holds() && !isOver)
-    Glib::MainContext::get_default()->iteration(true);
-  deadline.disconnect();
-  return holds();
-}
+using tests::eventually;
 
 /// While it lives, the file system treats the test as a user without rights, also where the tests run as
 /// root.
@@ -99,14 +85,7 @@ class Peer {
 };
 
 struct PreferencesTest : ::testing::Test {
-  PreferencesTest() {
-    std::string pattern = (fs::temp_directory_path() / "quorvel-preferences-XXXXXX").string();
-    root = g_mkdtemp(pattern.data());
-    fs::permissions(root, fs::perms(0755));
-    folder = root / "quorvel";
-    file = folder / "preferences.ini";
-  }
-  ~PreferencesTest() override { fs::remove_all(root); }
+  PreferencesTest() { fs::permissions(root, fs::perms(0755)); }
 
   void write(const std::string& text) const {
     fs::create_directories(folder);
@@ -139,7 +118,8 @@ struct PreferencesTest : ::testing::Test {
                             }).end()));
   }
 
-  fs::path root, folder, file;
+  const tests::TemporaryFolder temporary;
+  const fs::path root = temporary.path, folder = root / "quorvel", file = folder / "preferences.ini";
 };
 
 } // namespace quorvel

@@ -1,4 +1,5 @@
 #include "startup/GraphicsEnvironment.h"
+#include "support/TemporaryFolder.h"
 
 #include <filesystem>
 #include <fstream>
@@ -22,7 +23,6 @@ struct GraphicsEnvironmentTest : ::testing::Test {
     g_unsetenv("GDK_DEBUG");
     g_unsetenv("WEBKIT_DISABLE_DMABUF_RENDERER");
   }
-  ~GraphicsEnvironmentTest() override { fs::remove_all(root); }
 
   void addFile(const std::string& path) {
     fs::create_directories((root / path).parent_path());
@@ -30,7 +30,8 @@ struct GraphicsEnvironmentTest : ::testing::Test {
   }
   std::vector<Variable> variables() const { return GraphicsEnvironment(root).variables(); }
 
-  fs::path root = g_dir_make_tmp("quorvel-graphics-XXXXXX", nullptr);
+  const tests::TemporaryFolder temporary;
+  const fs::path root = temporary.path;
 };
 
 TEST_F(GraphicsEnvironmentTest, AMachineWithoutARenderNodeHasGlSwitchedOff) {

@@ -1,4 +1,5 @@
 #include "startup/messageBuses.h"
+#include "support/TemporaryFolder.h"
 
 #include <filesystem>
 #include <gio/gunixsocketaddress.h>
@@ -13,10 +14,7 @@ namespace fs = std::filesystem;
 
 /// A folder for sockets, some of which somebody listens at.
 struct MessageBusesTest : ::testing::Test {
-  ~MessageBusesTest() override {
-    g_object_unref(listener);
-    fs::remove_all(folder);
-  }
+  ~MessageBusesTest() override { g_object_unref(listener); }
 
   std::string listenAt(const std::string& name) {
     const auto path = folder / name;
@@ -28,7 +26,8 @@ struct MessageBusesTest : ::testing::Test {
   }
   std::string nobodyAt(const std::string& name) const { return "unix:path=" + (folder / name).string(); }
 
-  fs::path folder = g_dir_make_tmp("quorvel-buses-XXXXXX", nullptr);
+  const tests::TemporaryFolder temporary;
+  const fs::path folder = temporary.path;
   GSocketListener* listener = g_socket_listener_new();
 };
 

@@ -24,7 +24,7 @@ class MainWindowTest : public ModelTest {
     window = std::make_unique<MainWindow>(*model, *application, *commands);
     application->add_window(*window);
     window->present();
-    ASSERT_TRUE(tests::waitUntil([&] { return window->get_mapped() && window->get_width() > 0; }));
+    ASSERT_TRUE(tests::eventually([&] { return window->get_mapped() && window->get_width() > 0; }));
   }
   void TearDown() override { window->close(); }
 
@@ -100,9 +100,9 @@ TEST_F(MainWindowTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlway
   EXPECT_FALSE(isEnabled("Back"));
   EXPECT_FALSE(isEnabled("Forward"));
   show("/agent.html#connectorsCenter");
-  EXPECT_TRUE(tests::waitUntil([&] { return isEnabled("Back"); }));
+  EXPECT_TRUE(tests::eventually([&] { return isEnabled("Back"); }));
   window->activate_action("app.back");
-  EXPECT_TRUE(tests::waitUntil([&] { return isEnabled("Forward") && !isEnabled("Back"); }));
+  EXPECT_TRUE(tests::eventually([&] { return isEnabled("Forward") && !isEnabled("Back"); }));
   for (const char* title : {"Open Agent Workspace", "Open Connectors", "Reload", "Open in Browser"})
     EXPECT_TRUE(isEnabled(title)) << title;
 }
@@ -110,7 +110,7 @@ TEST_F(MainWindowTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlway
 TEST_F(MainWindowTest, ReloadAndOpenInBrowserStayEnabledWhileAPageLoads) {
   server.silence("/silent.html");
   model->load(server.address("/silent.html"));
-  ASSERT_TRUE(tests::waitUntil([&] { return *model->isLoading; }));
+  ASSERT_TRUE(tests::eventually([&] { return *model->isLoading; }));
   tests::drawFrame(*window);
   EXPECT_TRUE(isEnabled("Reload"));
   EXPECT_TRUE(isEnabled("Open in Browser"));
@@ -123,7 +123,7 @@ TEST_F(MainWindowTest, EachCommandDoesItsWork) {
   EXPECT_EQ(*model->currentURLString, url(QuorvelRoute::agent));
   show("/pricing.html");
   window->activate_action("app.reload");
-  EXPECT_TRUE(tests::waitUntil([&] { return server.count("/pricing.html") == 2; }));
+  EXPECT_TRUE(tests::eventually([&] { return server.count("/pricing.html") == 2; }));
   waitForRest();
   window->activate_action("app.open-externally");
   EXPECT_THAT(opened, ElementsAre(server.address("/pricing.html")));

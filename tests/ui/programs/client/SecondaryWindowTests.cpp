@@ -16,7 +16,7 @@ TEST(SecondaryWindowTest, ItIsAsLargeAsItsContentAndCannotBeResized) {
   auto* view = Gtk::make_managed<SettingsView>(preferences);
   SecondaryWindow window("Settings", *view);
   window.present();
-  ASSERT_TRUE(waitUntil([&] { return window.get_mapped(); }));
+  ASSERT_TRUE(eventually([&] { return window.get_mapped(); }));
   drawFrame(window);
   int minimum, natural, ignored;
   view->measure(Gtk::Orientation::VERTICAL, 520, minimum, natural, ignored, ignored);

@@ -27,7 +27,7 @@ class ColumnsTest : public ::testing::Test {
   WorkspaceStore store_;
   Preferences preferences_{folder_.path / "preferences.ini"};
   ConsoleColumns columns_{store_, preferences_};
-  TestWindow stage_{columns_, 1180, 760};
+  TestWindow window_{columns_, 1180, 760};
 };
 
 TEST_F(ColumnsTest, TheSmallestSizeIs1180By760) {
@@ -55,13 +55,13 @@ TEST_F(ColumnsTest, AtTheSmallestWidthTheCentreTakesWhatTheSidebarLeaves) {
 }
 
 TEST_F(ColumnsTest, OnePointBelow1500TheInspectorIsHidden) {
-  stage_.resize(1499, 760);
+  window_.resize(1499, 760);
   EXPECT_FALSE(showsInspector());
   EXPECT_EQ(bounds<DetailView>().get_width(), 1499 - 272);
 }
 
 TEST_F(ColumnsTest, From1500TheInspectorIs320Wide) {
-  stage_.resize(1500, 760);
+  window_.resize(1500, 760);
   EXPECT_TRUE(showsInspector());
   EXPECT_EQ(bounds<InspectorPanel>().get_x(), 1500 - 320);
   EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
@@ -69,7 +69,7 @@ TEST_F(ColumnsTest, From1500TheInspectorIs320Wide) {
 }
 
 TEST_F(ColumnsTest, WhatAWiderWindowHasMoreGoesToTheCentre) {
-  stage_.resize(1600, 1000);
+  window_.resize(1600, 1000);
   EXPECT_EQ(bounds<SidebarView>().get_width(), 272);
   EXPECT_EQ(bounds<DetailView>().get_width(), 1600 - 272 - 320);
   EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
@@ -78,7 +78,7 @@ TEST_F(ColumnsTest, WhatAWiderWindowHasMoreGoesToTheCentre) {
 
 TEST_F(ColumnsTest, TheColumnsKeepTheirWidthsInLargeText) {
   const TextScale scale(1.5);
-  stage_.resize(1600, 1000);
+  window_.resize(1600, 1000);
   EXPECT_EQ(bounds<SidebarView>().get_width(), 272);
   EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
   EXPECT_LE(widthRequest(*all<SidebarView>(columns_).front()).minimum, 272);
@@ -88,21 +88,21 @@ TEST_F(ColumnsTest, TheColumnsKeepTheirWidthsInLargeText) {
 TEST_F(ColumnsTest, TheInspectorFollowsTheStoreWhileItIsHidden) {
   store_.selectedSection = WorkspaceSection::pricing;
   drawFrame(columns_);
-  stage_.resize(1500, 760);
+  window_.resize(1500, 760);
   EXPECT_NE(labelled(*all<InspectorPanel>(columns_).front(), "Subscription fit"), nullptr);
 }
 
 TEST_F(ColumnsTest, TheGradientShowsBehindTheCentreFromCornerToCorner) {
   store_.selectedSection = WorkspaceSection::pricing;
   drawFrame(columns_);
-  const auto upper = stage_.pixel(280, 5);
-  const auto lower = stage_.pixel(1175, 755);
+  const auto upper = window_.pixel(280, 5);
+  const auto lower = window_.pixel(1175, 755);
   EXPECT_THAT(lower, IsColor(QuorvelBrand::windowGradient()[2]));
   EXPECT_THAT(upper, ::testing::Not(IsColor(lower)));
 }
 
 TEST_F(ColumnsTest, AllColumnsFollowOneRequest) {
-  stage_.resize(1600, 1000);
+  window_.resize(1600, 1000);
   click(*buttonNamed(columns_, "+ New chat"));
   drawFrame(columns_);
   EXPECT_TRUE(isAccessiblySelected(*buttonNamed(*all<SidebarView>(columns_).front(), "Live Requests")));
@@ -116,7 +116,7 @@ TEST_F(ColumnsTest, TabWalksFromTheSidebarThroughTheScreenAndOut) {
   auto* centre = all<DetailView>(columns_).front();
   int steps = 0;
   while (columns_.child_focus(Gtk::DirectionType::TAB_FORWARD) && ++steps < 200)
-    wasInCentre = wasInCentre || stage_.window().get_focus()->is_ancestor(*centre);
+    wasInCentre = wasInCentre || window_.get_focus()->is_ancestor(*centre);
   EXPECT_TRUE(wasInCentre);
   EXPECT_LT(steps, 200) << "Tab leaves the columns at last";
 }

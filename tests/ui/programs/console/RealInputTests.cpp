@@ -17,15 +17,15 @@ Gtk::Button& row(Gtk::Widget& root, WorkspaceSection section) {
 class SidebarInputTest : public ::testing::Test {
  protected:
   bool becomes(WorkspaceSection section) {
-    return waitUntil([&] { return store_.selectedSection == section; });
+    return eventually([&] { return store_.selectedSection == section; });
   }
   bool focusReaches(const Gtk::Widget& widget) {
-    return waitUntil([&] { return stage_.window().get_focus() == &widget; });
+    return eventually([&] { return window_.get_focus() == &widget; });
   }
 
   WorkspaceStore store_;
   SidebarView sidebar_{store_};
-  TestWindow stage_{sidebar_, 272, 760};
+  TestWindow window_{sidebar_, 272, 760};
 };
 
 TEST_F(SidebarInputTest, AClickAndSpaceAndReturnAllSelect) {
@@ -44,11 +44,11 @@ TEST_F(SidebarInputTest, AClickAndSpaceAndReturnAllSelect) {
 TEST(ConsoleInput, ControlWithADigitSelectsItsSectionWhereverTheFocusIs) {
   const auto application = ConsoleApplication::create(Gio::Application::Flags::NON_UNIQUE);
   const auto becomes = [&](WorkspaceSection section) {
-    return waitUntil([&] { return application->store().selectedSection == section; });
+    return eventually([&] { return application->store().selectedSection == section; });
   };
   const auto useKeys = [&] {
     auto& window = *application->get_windows().front();
-    EXPECT_TRUE(waitUntil([&] { return row(window, WorkspaceSection::pricing).get_width() > 0; }));
+    EXPECT_TRUE(eventually([&] { return row(window, WorkspaceSection::pricing).get_width() > 0; }));
     clickOn(row(window, WorkspaceSection::pricing));
     EXPECT_TRUE(becomes(WorkspaceSection::pricing));
     for (const auto section : allCases<WorkspaceSection>()) {

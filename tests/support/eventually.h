@@ -4,18 +4,33 @@
 #include <glib.h>
 #include <gmock/gmock.h>
 
-namespace quorvel::e2e {
+namespace quorvel::tests {
 
 /// Generous, because it is only ever waited for in full by a test that fails.
 inline constexpr std::chrono::seconds patience{20};
 
-/// Asks `probe` again and again until what it says matches, or patience ends; says what it said last.
+/// Wakes the main loop again and again, for what changes without telling it.
+class Ticking {
+ public:
+  Ticking() : id_(g_timeout_add(20, tick, nullptr)) {}
+  ~Ticking() { g_source_remove(id_); }
+  Ticking(const Ticking&) = delete;
+  Ticking& operator=(const Ticking&) = delete;
+
+ private:
+  static gboolean tick(gpointer) { return G_SOURCE_CONTINUE; }
+  guint id_;
+};
+
+/// Runs the main loop, and asks `probe` again and again, until what it says matches or the time is over; says
+/// what it said last. This is how every test waits.
 ///   EXPECT_TRUE(eventually([&] { return client.address(); }, EndsWith("/pricing.html")));
 template <class Probe, class Matcher>
-testing::AssertionResult eventually(Probe probe, Matcher expected) {
+testing::AssertionResult eventually(Probe probe, Matcher expected, std::chrono::seconds within = patience) {
   using Value = std::decay_t<decltype(probe())>;
   const auto matcher = testing::SafeMatcherCast<const Value&>(expected);
-  const auto deadline = std::chrono::steady_clock::now() + patience;
+  const auto deadline = std::chrono::steady_clock::now() + within;
+  const Ticking ticking;
   for (;;) {
     const Value value = probe();
     if (matcher.Matches(value))
@@ -23,7 +38,7 @@ testing::AssertionResult eventually(Probe probe, Matcher expected) {
     if (std::chrono::steady_clock::now() > deadline)
       return testing::AssertionFailure() << "it stayed at " << testing::PrintToString(value) << ", and never "
                                          << testing::DescribeMatcher<const Value&>(matcher);
-    g_usleep(20'000);
+    g_main_context_iteration(nullptr, true);
   }
 }
 
@@ -33,4 +48,4 @@ testing::AssertionResult eventually(Condition condition) {
   return eventually(condition, testing::Eq(true));
 }
 
-} // namespace quorvel::e2e
+} // namespace quorvel::tests
