@@ -15,16 +15,22 @@ struct TemporaryFolder {
                                               std::make_error_code(std::errc(errno)));
     path = name;
   }
-  // A program that the test has just ended may still be writing its last.
   ~TemporaryFolder() {
-    EXPECT_TRUE(eventually([this] {
-      std::error_code error;
-      std::filesystem::remove_all(path, error);
-      return !std::filesystem::exists(path);
-    })) << path;
+    empty();
+    std::filesystem::remove(path);
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  /// Removes all that is in it, also when a program that the test has just ended is still writing its last.
+  void empty() const {
+    EXPECT_TRUE(eventually([this] {
+      std::error_code error;
+      for (const auto& entry : std::filesystem::directory_iterator(path))
+        std::filesystem::remove_all(entry, error);
+      return std::filesystem::is_empty(path);
+    })) << path;
+  }
 
   std::filesystem::path path;
 };

@@ -5,6 +5,30 @@
 #include <gtest/gtest.h>
 #include <gtkmm.h>
 
+namespace {
+
+using quorvel::tests::TemporaryFolder;
+
+/// Gives each test an account as if it were the first, and holds it to leaving no window behind for the next.
+class FreshAccount : public testing::EmptyTestEventListener {
+ public:
+  FreshAccount() {
+    for (const auto* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+      g_setenv(folder, (home_.path / folder).c_str(), true);
+  }
+
+ private:
+  void OnTestStart(const testing::TestInfo&) override { home_.empty(); }
+  void OnTestEnd(const testing::TestInfo&) override {
+    for (const auto* window : Gtk::Window::list_toplevels())
+      ADD_FAILURE() << "the test left the window \"" << window->get_title() << "\" behind";
+  }
+
+  const TemporaryFolder home_;
+};
+
+} // namespace
+
 /// Runs tests of real widgets: with folders of their own, a pinned language and the software renderer, so
 /// that no user's settings and no graphics card change what they see.
 int main(int argc, char** argv) {
@@ -12,9 +36,7 @@ int main(int argc, char** argv) {
   if (testing::GTEST_FLAG(list_tests))
     return RUN_ALL_TESTS();
 
-  const quorvel::tests::TemporaryFolder home;
-  for (const auto* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
-    g_setenv(folder, (home.path / folder).c_str(), true);
+  testing::UnitTest::GetInstance()->listeners().Append(new FreshAccount);
   g_setenv("LC_ALL", "C.UTF-8", true);
   g_setenv("GSK_RENDERER", "cairo", true);
   g_setenv("GDK_DEBUG", "gl-disable", true);

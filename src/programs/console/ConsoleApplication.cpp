@@ -29,6 +29,11 @@ void ConsoleApplication::on_activate() {
   window_->present();
 }
 
+void ConsoleApplication::on_shutdown() {
+  window_.reset();
+  Gtk::Application::on_shutdown();
+}
+
 void ConsoleApplication::addShortcuts() {
   for (const auto section : allCases<WorkspaceSection>()) {
     const std::string name(rawValue(section));

@@ -25,6 +25,7 @@ class ConsoleApplication : public Gtk::Application {
   explicit ConsoleApplication(Gio::Application::Flags flags);
   void on_startup() override;
   void on_activate() override;
+  void on_shutdown() override;
 
  private:
   void addShortcuts();

@@ -268,6 +268,7 @@ TEST_F(DesktopBrowserModelTest, AServerErrorEndsTheLoadingState) {
     soup_server_message_set_status(message, SOUP_STATUS_INTERNAL_SERVER_ERROR, nullptr);
   });
   model->load(server.address("/broken.html"));
+  ASSERT_TRUE(tests::eventually([&] { return server.count("/broken.html") > 0; }));
   waitForRest();
   EXPECT_EQ(server.count("/broken.html"), 1);
 }

@@ -15,10 +15,15 @@ using ::testing::SizeIs;
 /// The program's window with its menus, on a real model.
 class MainWindowTest : public ModelTest {
  protected:
+  static void SetUpTestSuite() {
+    application = Gtk::Application::create("com.quorvel.Test");
+    application->register_application();
+  }
+  static void TearDownTestSuite() { application.reset(); }
+
   void SetUp() override {
     show("/agent.html");
     commands.emplace(*model, Commands::Program{});
-    application->register_application();
     commands->addTo(*application);
     addClosingKey(*application);
     window = std::make_unique<MainWindow>(*model, *application, *commands);
@@ -43,7 +48,8 @@ class MainWindowTest : public ModelTest {
     return keys.empty() ? "" : std::string(keys.front());
   }
 
-  Glib::RefPtr<Gtk::Application> application = Gtk::Application::create("com.quorvel.Test");
+  // A process has one application.
+  static inline Glib::RefPtr<Gtk::Application> application;
   std::optional<Commands> commands;
   std::unique_ptr<MainWindow> window;
 };
