@@ -285,7 +285,7 @@ TEST_F(LazyRowsTest, OneMoreInFrontMovesEveryCellOfAGridOn) {
 
 TEST_F(LazyRowsTest, AGridTakesAnotherCountOfColumnsInAnotherWidth) {
   show(records(10'000), threeColumns);
-  stage->resize(360, 400);
+  window->resize(360, 400);
   draw();
   EXPECT_EQ(place("2").get_x(), 28) << "two columns";
   EXPECT_EQ(column->get_height(), 5'000 * (50 + 10) - 10);
@@ -297,7 +297,7 @@ TEST_F(LazyRowsTest, InAGridTheLineWithTheFocusStaysHoweverFarItIsScrolledAway) 
   auto* focused = row("4");
   focused->grab_focus();
   scrollToEnd();
-  EXPECT_EQ(stage->window().get_focus(), focused);
+  EXPECT_EQ(window->get_focus(), focused);
   expectSightIsFilled();
   scrollTo(0);
   EXPECT_EQ(rows().at(4), focused) << "and it is back in its place";

@@ -119,7 +119,7 @@ struct PreferencesTest : ::testing::Test {
   }
 
   const tests::TemporaryFolder temporary;
-  const fs::path root = temporary.path, folder = root / "quorvel", file = folder / "preferences.ini";
+  fs::path root = temporary.path, folder = root / "quorvel", file = folder / "preferences.ini";
 };
 
 } // namespace quorvel
