@@ -258,13 +258,13 @@ TEST_F(ContentViewTest, WhatAPagePutsIntoItsAddressMisleadsNobody) {
   const auto misleading = "http://app.quorvel.example@" + server.address("/pricing.html").substr(7);
   model->load(misleading);
   EXPECT_EQ(*model->currentURLString, misleading) << "what is published is exact";
-  ASSERT_TRUE(tests::waitUntil([&] { return shownAddress() == server.address("/pricing.html"); }))
+  ASSERT_TRUE(tests::eventually([&] { return shownAddress() == server.address("/pricing.html"); }))
       << shownAddress();
 }
 
 TEST_F(ContentViewTest, AnAddressOfAMegabyteIsCutBeforeItIsLaidOut) {
   runScript("history.pushState(null, '', '/agent.html#' + 'x'.repeat(1000000))");
-  ASSERT_TRUE(tests::waitUntil([&] { return model->currentURLString->size() > 1'000'000; }));
+  ASSERT_TRUE(tests::eventually([&] { return model->currentURLString->size() > 1'000'000; }));
   tests::drawFrame(*view);
   EXPECT_LT(shownAddress().size(), 5'000u);
   EXPECT_EQ(bounds(the<DesktopClientToolbar>()).get_width(), 873);
