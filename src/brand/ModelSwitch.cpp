@@ -1,6 +1,5 @@
 #include "brand/ModelSwitch.h"
 
-#include <gtkmm/eventcontrollerkey.h>
 #include <gtkmm/gestureclick.h>
 #include <utility>
 
@@ -9,7 +8,6 @@ namespace quorvel {
 ModelSwitch::ModelSwitch(std::function<void(bool)> write) : write_(std::move(write)) {
   takeOverClicks();
   takeOverActivation();
-  swallowRepeats();
 }
 
 void ModelSwitch::show(bool isOn) {
@@ -45,17 +43,6 @@ void ModelSwitch::takeOverActivation() {
     self->write_(!self->isOn_);
   };
   g_signal_connect(gobj(), "activate", G_CALLBACK(onActivate), this);
-}
-
-void ModelSwitch::swallowRepeats() {
-  const auto keys = Gtk::EventControllerKey::create();
-  keys->set_propagation_phase(Gtk::PropagationPhase::CAPTURE);
-  keys->signal_key_pressed().connect(
-      [this](guint key, guint, Gdk::ModifierType) { return std::exchange(heldKey_, key) == key; }, false);
-  keys->signal_key_released().connect([this](guint, guint, Gdk::ModifierType) { heldKey_ = 0; });
-  // The release of the key that moved the focus goes to another widget.
-  property_has_focus().signal_changed().connect([this] { heldKey_ = 0; });
-  add_controller(keys);
 }
 
 /// Stands at the value, ending a movement that is under way.

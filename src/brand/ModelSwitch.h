@@ -7,8 +7,8 @@ namespace quorvel {
 
 /// A switch that shows a value of a model and leaves it to the model what becomes of it.
 ///
-/// Each action of the user (a click, Space, Return; a held key is one) calls `write` once and at once with
-/// the position asked for. The switch itself moves only when `show()` is given another value, so a model that
+/// Each action of the user (a click, Space, Return) calls `write` once and at once with the position asked
+/// for. The switch itself moves only when `show()` is given another value, so a model that
 /// keeps its value leaves no trace.
 class ModelSwitch : public Gtk::Switch {
  public:
@@ -20,14 +20,12 @@ class ModelSwitch : public Gtk::Switch {
  private:
   void takeOverClicks();
   void takeOverActivation();
-  void swallowRepeats();
   void jump();
   void slide();
 
   std::function<void(bool)> write_;
   bool isOn_ = false;
   bool isSliding_ = false;
-  guint heldKey_ = 0;
 };
 
 } // namespace quorvel

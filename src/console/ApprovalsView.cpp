@@ -7,15 +7,12 @@
 #include "brand/text.h"
 #include "console/RecordRows.h"
 #include "console/trailingTexts.h"
+#include "layout/focusAsWhole.h"
 
 #include <algorithm>
-#include <gtkmm/root.h>
-#include <optional>
 
 namespace quorvel {
 namespace {
-
-enum class Decision { pause, approve };
 
 using Decide = std::function<void(const ApprovalItem&)>;
 
@@ -24,11 +21,13 @@ Gtk::Widget* stepChip(const std::string& step) {
   return surface("step-chip", padded(10, 7, text(step, look)));
 }
 
+/// One gate. When a button with the focus is disabled by its own press the row takes the focus, where Return
+/// and Space decide nothing; Tab leads on from there.
 class ApprovalRow : public VStack {
  public:
   ApprovalRow(const ApprovalItem& item, Decide approve, Decide pause);
   void show(const ApprovalItem& item);
-  Gtk::Button& button(Decision decision) const { return *(decision == Decision::pause ? pause_ : approve_); }
+  bool holdsFocus() const;
 
  private:
   Gtk::Widget* titleBlock();
@@ -59,6 +58,7 @@ ApprovalRow::ApprovalRow(const ApprovalItem& item, Decide approve, Decide pause)
   auto* body = withTrailingTexts(summary_, 6, {agent_, source_});
   auto* actions = hstack(defaultSpacing, {hspacer(), pause_, approve_});
   add({quorvelCard(vstack(16, {titleBlock(), body, steps_, actions}))});
+  add_css_class("approval-row");
   show(item);
 }
 
@@ -77,11 +77,18 @@ void ApprovalRow::show(const ApprovalItem& item) {
   source_->set_text(item.source);
   if (item.steps != item_.steps)
     showSteps(item.steps);
-  for (const auto decision : {Decision::pause, Decision::approve})
-    button(decision).set_sensitive(isWaiting);
+  if (!isWaiting && (pause_->is_focus() || approve_->is_focus()))
+    focusAsWhole(*this);
+  for (auto* button : {pause_, approve_})
+    button->set_sensitive(isWaiting);
+  setAccessibleName(*this, item.title);
   setAccessibleName(*pause_, "Pause " + item.title);
   setAccessibleName(*approve_, "Approve " + item.title);
   item_ = item;
+}
+
+bool ApprovalRow::holdsFocus() const {
+  return is_focus() || pause_->is_focus() || approve_->is_focus();
 }
 
 void ApprovalRow::showSteps(const std::vector<std::string>& steps) {
@@ -93,29 +100,25 @@ void ApprovalRow::showSteps(const std::vector<std::string>& steps) {
 
 using ApprovalRows = RecordRows<VStack, ApprovalItem, ApprovalRow>;
 
-/// The gates. When the button with the focus is disabled by its own press, the focus goes on to the same
-/// button of the next gate that waits, or else of the one before.
+/// The gates. Where the one with the focus is gone, that which now stands in its place takes the focus, or
+/// the last.
 class Gates : public ApprovalRows {
  public:
   using ApprovalRows::ApprovalRows;
 
  private:
-  /// The button that has the focus: which row it stands in, counted from 0, and what it decides.
-  struct Focus {
-    std::size_t place;
-    Decision decision;
-  };
   void refresh() override;
   std::vector<ApprovalRow*> rows();
-  std::optional<Focus> focus();
-  void passOn(const Focus& focus);
 };
 
 void Gates::refresh() {
-  const auto focused = focus();
+  const auto before = rows();
+  const auto focused = std::ranges::find_if(before, &ApprovalRow::holdsFocus);
+  const auto place = static_cast<std::size_t>(focused - before.begin());
   ApprovalRows::refresh();
-  if (focused)
-    passOn(*focused);
+  const auto after = rows();
+  if (place < before.size() && std::ranges::find(after, before[place]) == after.end() && !after.empty())
+    focusAsWhole(*after[std::min(place, after.size() - 1)]);
 }
 
 std::vector<ApprovalRow*> Gates::rows() {
@@ -123,30 +126,6 @@ std::vector<ApprovalRow*> Gates::rows() {
   for (auto* child = get_first_child(); child; child = child->get_next_sibling())
     rows.push_back(dynamic_cast<ApprovalRow*>(child));
   return rows;
-}
-
-std::optional<Gates::Focus> Gates::focus() {
-  const auto candidates = rows();
-  for (std::size_t place = 0; place < candidates.size(); ++place)
-    for (const auto decision : {Decision::pause, Decision::approve})
-      if (candidates[place]->button(decision).has_focus())
-        return Focus{place, decision};
-  return std::nullopt;
-}
-
-void Gates::passOn(const Focus& focus) {
-  auto candidates = rows();
-  // From the row that had it downwards, then upwards from there.
-  const auto before =
-      candidates.begin() + static_cast<std::ptrdiff_t>(std::min(focus.place, candidates.size()));
-  std::reverse(candidates.begin(), before);
-  std::rotate(candidates.begin(), before, candidates.end());
-  const auto next = std::ranges::find_if(
-      candidates, [&](auto* row) { return row->button(focus.decision).get_sensitive(); });
-  if (next != candidates.end())
-    (*next)->button(focus.decision).grab_focus();
-  else if (auto* root = dynamic_cast<Gtk::Widget*>(get_root()))
-    root->child_focus(Gtk::DirectionType::TAB_FORWARD);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "console/DetailView.h"
 
+#include "brand/buttons.h"
 #include "console/AgentsView.h"
 #include "console/ApprovalsView.h"
 #include "console/BrowserWorkspaceView.h"
@@ -8,6 +9,7 @@
 #include "console/PricingView.h"
 #include "console/RequestsView.h"
 #include "console/SecurityView.h"
+#include "layout/focusAsWhole.h"
 #include "observation/observe.h"
 
 #include <gtkmm/root.h>
@@ -28,10 +30,11 @@ void DetailView::refresh() {
   shown_ = section;
   const bool focusMoves = holdsFocus();
   auto* next = padded(28, screen(section));
+  setAccessibleName(*next, std::string(title(section)));
   set_child(*next);
+  if (focusMoves)
+    focusAsWhole(*next);
   get_vadjustment()->set_value(0);
-  if (focusMoves && !next->child_focus(Gtk::DirectionType::TAB_FORWARD))
-    grab_focus();
 }
 
 Gtk::Widget* DetailView::screen(WorkspaceSection section) {

@@ -1,5 +1,8 @@
 #include "support/RealInput.h"
 
+#include "support/TestWindow.h"
+
+#include <X11/XKBlib.h>
 #include <gdk/x11/gdkx.h>
 #include <gdkmm/surface.h>
 #include <glibmm/spawn.h>
@@ -16,6 +19,27 @@ void xdotool(std::vector<std::string> arguments) {
   if (status != 0)
     throw std::runtime_error("xdotool failed");
 }
+
+::Display* xDisplay() {
+  return gdk_x11_display_get_xdisplay(Gdk::Display::get_default()->gobj());
+}
+
+/// Keys that are held repeat themselves early and fast while this exists.
+class QuickRepeat {
+ public:
+  QuickRepeat() {
+    XkbGetAutoRepeatRate(xDisplay(), XkbUseCoreKbd, &delay_, &interval_);
+    set(150, 20);
+  }
+  ~QuickRepeat() { set(delay_, interval_); }
+
+ private:
+  static void set(unsigned delay, unsigned interval) {
+    XkbSetAutoRepeatRate(xDisplay(), XkbUseCoreKbd, delay, interval);
+    XSync(xDisplay(), false);
+  }
+  unsigned delay_ = 0, interval_ = 0; // of the display, in milliseconds
+};
 
 } // namespace
 
@@ -35,12 +59,27 @@ void strikeKey(const std::string& name) {
   xdotool({"key", name});
 }
 
-void holdKey(const std::string& name) {
+void holdKey(const std::string& name, Gtk::Widget& window) {
+  constexpr int longEnough = 28;
+  const QuickRepeat quickRepeat;
+  int presses = 0;
+  const auto keys = Gtk::EventControllerKey::create();
+  keys->set_propagation_phase(Gtk::PropagationPhase::CAPTURE);
+  keys->signal_key_pressed().connect([&](guint, guint, Gdk::ModifierType) { return ++presses < 0; }, false);
+  window.add_controller(keys);
   xdotool({"keydown", name});
+  const bool hasRepeated = waitUntil([&] { return presses >= longEnough; });
+  xdotool({"keyup", name});
+  window.remove_controller(keys);
+  if (!hasRepeated)
+    throw std::runtime_error("the key never repeated itself");
 }
 
-void releaseKey(const std::string& name) {
-  xdotool({"keyup", name});
+void focusOn(Gtk::Widget& widget) {
+  auto& window = dynamic_cast<Gtk::Window&>(*widget.get_root());
+  if (!waitUntil([&] { return window.is_active(); }))
+    throw std::runtime_error("the window never got the keyboard");
+  widget.grab_focus();
 }
 
 } // namespace quorvel::tests

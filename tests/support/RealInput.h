@@ -1,6 +1,6 @@
 #pragma once
 
-#include <gtkmm/widget.h>
+#include <gtkmm/window.h>
 #include <string>
 
 namespace quorvel::tests {
@@ -12,8 +12,10 @@ namespace quorvel::tests {
 void clickOn(Gtk::Widget& widget);
 /// Strikes a key ("space", "Return", "Tab") in the window that the pointer is over.
 void strikeKey(const std::string& name);
-/// Holds a key down, which repeats itself after a while, until it is released.
-void holdKey(const std::string& name);
-void releaseKey(const std::string& name);
+/// Holds a key down in a window of this program, or in a menu over one, until it has repeated itself for so
+/// long that a press takes effect, and one that follows it too. The window has to have the keyboard.
+void holdKey(const std::string& name, Gtk::Widget& window);
+/// Gives a widget the focus in a window that has the keyboard.
+void focusOn(Gtk::Widget& widget);
 
 } // namespace quorvel::tests

@@ -1,4 +1,5 @@
 #include "brand/StyleSheet.h"
+#include "brand/heldKeys.h"
 #include "startup/messageBuses.h"
 #include "support/TemporaryFolder.h"
 
@@ -49,5 +50,6 @@ int main(int argc, char** argv) {
   }
   Gtk::Application::create();
   quorvel::installStyle();
+  quorvel::letHeldKeysActOnce();
   return RUN_ALL_TESTS();
 }

@@ -1,6 +1,7 @@
 #include "programs/client/QuorvelApp.h"
 
 #include "brand/StyleSheet.h"
+#include "brand/heldKeys.h"
 #include "client/DesktopBrowserModel.h"
 #include "preferences/Preferences.h"
 #include "programs/client/MainWindow.h"
@@ -39,6 +40,7 @@ void QuorvelApp::on_startup() {
 void QuorvelApp::on_activate() {
   if (!window_) {
     installStyle();
+    letHeldKeysActOnce();
     makeWindow();
   }
   appDelegate_.applicationDidFinishLaunching();

@@ -1,6 +1,7 @@
 #include "programs/console/ConsoleApplication.h"
 
 #include "brand/StyleSheet.h"
+#include "brand/heldKeys.h"
 #include "programs/console/ConsoleColumns.h"
 
 #include <gtkmm/headerbar.h>
@@ -18,6 +19,7 @@ ConsoleApplication::ConsoleApplication(Gio::Application::Flags flags) : Gtk::App
 void ConsoleApplication::on_startup() {
   Gtk::Application::on_startup();
   installStyle();
+  letHeldKeysActOnce();
   addShortcuts();
 }
 

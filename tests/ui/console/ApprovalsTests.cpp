@@ -1,7 +1,6 @@
 #include "console/ApprovalsView.h"
 
 #include "brand/StatusPill.h"
-#include "brand/buttons.h"
 #include "support/TestWindow.h"
 
 namespace quorvel {
@@ -33,11 +32,13 @@ class ApprovalsTest : public ::testing::Test {
       widget = widget->get_parent();
     return *widget;
   }
+  Gtk::Widget& row(const std::string& title) { return *card(title).get_parent(); }
   Gtk::Button& approveButton(const std::string& title) { return *buttonNamed(card(title), "Approve"); }
   Gtk::Button& pauseButton(const std::string& title) { return *buttonNamed(card(title), "Pause"); }
   StatusPill& statePill(const std::string& title) { return *all<StatusPill>(card(title)).at(0); }
   StatusPill& riskPill(const std::string& title) { return *all<StatusPill>(card(title)).at(1); }
   ApprovalState state(std::size_t index) { return store_.approvals->at(index).state; }
+  void tab(Gtk::DirectionType direction) { window_.child_focus(direction); }
   const Gtk::Widget* focused() { return window_.get_focus(); }
 
   WorkspaceStore store_;
@@ -162,22 +163,36 @@ TEST_F(ApprovalsTest, ApprovingTouchesNoWidgetOfTheOtherGatesAndReplacesNone) {
   EXPECT_EQ(boundsIn(view_, *before).get_y(), y);
 }
 
-TEST_F(ApprovalsTest, TheFocusGoesOnToTheSameButtonOfTheNextGateThatWaits) {
-  show({gate("a", ApprovalState::waiting), gate("b", ApprovalState::paused),
-        gate("c", ApprovalState::waiting)});
+TEST_F(ApprovalsTest, AfterADecisionTheGateItselfHasTheFocusAndNoButtonOfAnother) {
+  show({gate("a", ApprovalState::waiting), gate("b", ApprovalState::waiting)});
   pauseButton("Gate a").grab_focus();
   click(pauseButton("Gate a"));
   draw();
-  EXPECT_EQ(focused(), &pauseButton("Gate c"));
+  EXPECT_EQ(focused(), &row("Gate a"));
+  approveButton("Gate b").grab_focus();
+  click(approveButton("Gate b"));
+  draw();
+  EXPECT_EQ(focused(), &row("Gate b"));
 }
 
-TEST_F(ApprovalsTest, TheFocusGoesBackWhereNoLaterGateWaits) {
-  show({gate("a", ApprovalState::waiting), gate("b", ApprovalState::waiting),
+TEST_F(ApprovalsTest, TabLeadsFromADecidedGateToTheNextOneThatWaits) {
+  show({gate("a", ApprovalState::waiting), gate("b", ApprovalState::paused),
         gate("c", ApprovalState::waiting)});
-  approveButton("Gate c").grab_focus();
-  click(approveButton("Gate c"));
+  approveButton("Gate a").grab_focus();
+  click(approveButton("Gate a"));
   draw();
-  EXPECT_EQ(focused(), &approveButton("Gate b")) << "the nearest one before it";
+  tab(Gtk::DirectionType::TAB_FORWARD);
+  EXPECT_EQ(focused(), &pauseButton("Gate c"));
+  tab(Gtk::DirectionType::TAB_BACKWARD);
+  EXPECT_NE(focused(), &row("Gate a")) << "a decided gate is no stop on the way";
+}
+
+TEST_F(ApprovalsTest, TheFocusFollowsItsGateWhateverComesInFrontOfIt) {
+  show({gate("a", ApprovalState::waiting), gate("b", ApprovalState::waiting)});
+  approveButton("Gate b").grab_focus();
+  show({gate("n", ApprovalState::waiting), gate("b", ApprovalState::waiting),
+        gate("a", ApprovalState::waiting)});
+  EXPECT_EQ(focused(), &approveButton("Gate b"));
 }
 
 TEST_F(ApprovalsTest, TheFocusStaysWhereItIsWhenAnotherGateIsDecided) {
@@ -187,24 +202,22 @@ TEST_F(ApprovalsTest, TheFocusStaysWhereItIsWhenAnotherGateIsDecided) {
   EXPECT_EQ(focused(), &approveButton(adSpend));
 }
 
-TEST_F(ApprovalsTest, TheFocusGoesOnWhenItsGateIsGone) {
+TEST_F(ApprovalsTest, WhereTheGateWithTheFocusIsGoneTheOneInItsPlaceHasItAsAWhole) {
   show({gate("a", ApprovalState::waiting), gate("b", ApprovalState::waiting)});
   approveButton("Gate a").grab_focus();
   show({gate("b", ApprovalState::waiting)});
-  EXPECT_EQ(focused(), &approveButton("Gate b"));
+  EXPECT_EQ(focused(), &row("Gate b"));
+  tab(Gtk::DirectionType::TAB_FORWARD);
+  EXPECT_EQ(focused(), &pauseButton("Gate b"));
 }
 
-TEST(Approvals, TheFocusLeavesForAnotherControlOfTheWindowAfterTheLastDecision) {
-  WorkspaceStore store;
-  store.approvals = {gate("a", ApprovalState::waiting)};
-  auto* elsewhere = button("Elsewhere", ButtonStyle::bordered, [] {});
-  auto* view = Gtk::make_managed<ApprovalsView>(store);
-  auto* column = vstack(0, {elsewhere, stretched(view)});
-  TestWindow window(*column, 852);
-  buttonNamed(*view, "Approve")->grab_focus();
-  click(*buttonNamed(*view, "Approve"));
-  drawFrame(*column);
-  EXPECT_EQ(window.get_focus(), elsewhere);
+TEST_F(ApprovalsTest, WhereTheLastGateIsGoneTheOneBeforeItHasTheFocus) {
+  show({gate("a", ApprovalState::waiting), gate("b", ApprovalState::waiting)});
+  pauseButton("Gate b").grab_focus();
+  show({gate("a", ApprovalState::waiting)});
+  EXPECT_EQ(focused(), &row("Gate a"));
+  show({});
+  EXPECT_EQ(focused(), nullptr);
 }
 
 } // namespace

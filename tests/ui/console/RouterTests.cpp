@@ -146,17 +146,25 @@ TEST_F(RouterTest, AScreenStartsAtItsTop) {
   EXPECT_EQ(scrolled(), 0);
 }
 
-TEST_F(RouterTest, FocusInsideTheOldScreenGoesToTheFirstControlOfTheNewOne) {
+TEST_F(RouterTest, FocusInsideTheOldScreenGoesToTheNewOneAsAWholeAndTabToItsFirstControl) {
   buttonNamed(screen(), "Connectors")->grab_focus();
   click(*buttonNamed(screen(), "Connectors"));
   drawFrame(router_);
+  EXPECT_EQ(focus(), &screen());
+  EXPECT_EQ(scrolled(), 0);
+  stage_.window().child_focus(Gtk::DirectionType::TAB_FORWARD);
   EXPECT_EQ(focus(), all<Gtk::Switch>(screen()).front());
 }
 
-TEST_F(RouterTest, FocusInsideTheOldScreenGoesToTheScrollAreaWhereTheNewOneHasNoControl) {
+TEST_F(RouterTest, AScreenThatTookTheFocusAsAWholeIsNoStopOfTabAfterwards) {
+  stage_.resize(1000, 300);
   buttonNamed(screen(), "Connectors")->grab_focus();
-  select(WorkspaceSection::browser);
-  EXPECT_EQ(focus(), &router_);
+  select(WorkspaceSection::connectors);
+  EXPECT_EQ(focus(), &screen());
+  EXPECT_EQ(scrolled(), 0);
+  outside_.grab_focus();
+  stage_.window().child_focus(Gtk::DirectionType::TAB_FORWARD);
+  EXPECT_EQ(focus(), all<Gtk::Switch>(screen()).front());
 }
 
 TEST_F(RouterTest, FocusOutsideTheScreenStaysThere) {

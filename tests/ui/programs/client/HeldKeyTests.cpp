@@ -1,0 +1,112 @@
+#include "programs/client/MainWindow.h"
+
+#include "client/ContentView.h"
+#include "programs/client/PrimaryMenu.h"
+#include "support/RealInput.h"
+#include "ui/client/ModelTest.h"
+
+namespace quorvel {
+namespace {
+
+using ::testing::SizeIs;
+using tests::focusOn;
+using tests::holdKey;
+
+/// The program's window on a real model, under a real keyboard.
+class ClientHeldKeyTest : public ModelTest {
+ protected:
+  void SetUp() override {
+    show("/agent.html");
+    commands.emplace(*model, Commands::Program{.showSettings = [this] { ++settingsShown; },
+                                               .showShortcuts = [] {},
+                                               .showAbout = [] {},
+                                               .quit = [] {}});
+    application->register_application();
+    commands->addTo(*application);
+    window = std::make_unique<MainWindow>(*model, *application, *commands);
+    application->add_window(*window);
+    window->present();
+    ASSERT_TRUE(tests::waitUntil([&] { return window->get_mapped() && window->get_width() > 0; }));
+  }
+  void TearDown() override { window->close(); }
+
+  void hold(const char* key, const char* button) {
+    focusOn(*tests::buttonNamed(*window, button));
+    holdKey(key, *window);
+    waitForRest();
+  }
+
+  int settingsShown = 0;
+  Glib::RefPtr<Gtk::Application> application = Gtk::Application::create("com.quorvel.Test");
+  std::optional<Commands> commands;
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(ClientHeldKeyTest, ReloadsOnce) {
+  hold("Return", "Reload");
+  EXPECT_EQ(server.count("/agent.html"), 2);
+}
+
+TEST_F(ClientHeldKeyTest, OpensThePageInTheBrowserOnce) {
+  hold("space", "Open externally");
+  EXPECT_THAT(opened, SizeIs(1));
+}
+
+TEST_F(ClientHeldKeyTest, GoesBackByOnePage) {
+  show("/pricing.html");
+  show("/agent.html#connectorsCenter");
+  hold("Return", "Back");
+  EXPECT_EQ(*model->currentURLString, server.address("/pricing.html"));
+}
+
+TEST_F(ClientHeldKeyTest, PressesEveryButtonOnce) {
+  const auto buttons = tests::all<Gtk::Button>(*tests::all<ContentView>(*window).front());
+  EXPECT_GE(buttons.size(), 11U);
+  for (auto* button : buttons) {
+    button->set_sensitive(true);
+    int presses = 0;
+    const auto counting = button->signal_clicked().connect([&] { ++presses; });
+    focusOn(*button);
+    holdKey("Return", *window);
+    EXPECT_EQ(presses, 1) << tests::texts(*button).front();
+    sigc::connection(counting).disconnect();
+  }
+}
+
+TEST_F(ClientHeldKeyTest, OpensTheMenuAndChoosesNothingFromIt) {
+  auto* menu = tests::all<PrimaryMenu>(*window).front();
+  menu->popup();
+  ASSERT_TRUE(tests::waitUntil([&] { return menu->get_popover()->get_mapped(); }));
+  menu->popdown();
+  ASSERT_TRUE(tests::waitUntil([&] { return !menu->get_popover()->get_mapped(); }));
+  focusOn(*tests::all<Gtk::ToggleButton>(*menu).front());
+  holdKey("Return", *menu->get_popover());
+  EXPECT_EQ(settingsShown, 0);
+  EXPECT_TRUE(menu->get_popover()->get_mapped());
+}
+
+TEST_F(ClientHeldKeyTest, IsRepeatedInThePageItWentDownIn) {
+  server.page("/field.html", "<textarea autofocus style='position:fixed;inset:0' "
+                             "oninput=\"if (value.length > 5) location.hash = 'typed'\"></textarea>");
+  show("/field.html");
+  focusOn(model->webView().widget());
+  runScript("document.querySelector('textarea').focus()");
+  holdKey("space", *window);
+  EXPECT_TRUE(tests::waitUntil([&] { return model->currentURLString->ends_with("#typed"); }));
+}
+
+TEST_F(ClientHeldKeyTest, IsNotRepeatedInAPageThatTheFocusCameTo) {
+  server.page("/field.html", "<textarea autofocus style='position:fixed;inset:0' "
+                             "oninput=\"location.hash = 'typed'\"></textarea>");
+  show("/field.html");
+  runScript("document.querySelector('textarea').focus()");
+  auto* reload = tests::buttonNamed(*window, "Open externally");
+  reload->signal_clicked().connect([this] { model->webView().widget().grab_focus(); });
+  hold("space", "Open externally");
+  EXPECT_THAT(opened, SizeIs(1));
+  settle();
+  EXPECT_EQ(*model->currentURLString, server.address("/field.html"));
+}
+
+} // namespace
+} // namespace quorvel
