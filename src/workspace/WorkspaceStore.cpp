@@ -1,5 +1,7 @@
 #include "workspace/WorkspaceStore.h"
 
+#include "vocabulary/letterByLetter.h"
+
 #include <algorithm>
 #include <glib.h>
 #include <glibmm/unicode.h>
@@ -16,12 +18,8 @@ std::string newId() {
   return id;
 }
 
-/// Letter by letter rather than `Glib::ustring::lowercase()`, whose result depends on the desktop's language.
 std::string lowercased(const std::string& text) {
-  Glib::ustring lower;
-  for (const gunichar letter : Glib::ustring(text).make_valid())
-    lower += Glib::Unicode::tolower(letter);
-  return lower;
+  return letterByLetter(Glib::ustring(text).make_valid(), Glib::Unicode::tolower);
 }
 
 template <class List, class Condition>

@@ -6,6 +6,7 @@
 #include "brand/text.h"
 #include "brand/tone.h"
 #include "support/TestWindow.h"
+#include "support/TurkishLanguage.h"
 
 #include <gmock/gmock.h>
 
@@ -90,6 +91,14 @@ TEST(SectionHeader, ShowsItsEyebrowInUpperCase) {
   auto* header = Gtk::make_managed<SectionHeader>("Today at a glance", "Title", "Detail");
   TestWindow window(*header, 300);
   EXPECT_THAT(texts(*header), ElementsAre("TODAY AT A GLANCE", "Title", "Detail"));
+}
+
+TEST(SectionHeader, ItsEyebrowIsTheSameInEveryLanguage) {
+  const TurkishLanguage language;
+  ASSERT_EQ(Glib::ustring("Live").uppercase(), "LİVE") << "what the language would make of it";
+  auto* header = Gtk::make_managed<SectionHeader>("Live requests", "Title", "Detail");
+  TestWindow stage(*header, 300);
+  EXPECT_EQ(texts(*header).front(), "LIVE REQUESTS");
 }
 
 TEST(SectionHeader, ItsDetailWrapsAndIsNeverCut) {

@@ -1,3 +1,4 @@
+#include "support/TurkishLanguage.h"
 #include "workspace/WorkspaceStore.h"
 
 #include <functional>
@@ -207,6 +208,14 @@ TEST_F(WorkspaceStoreTest, ATitleIsLowerCasedInEveryScriptAndTheAgentKeepsItsCas
   store.approve(passed);
   EXPECT_THAT(store.activity->front().detail,
               StartsWith("Ärger Agent can continue with ärger mit été, журнал, αβγ, 東京 & strasse i"));
+}
+
+TEST_F(WorkspaceStoreTest, TheLoweredTitleIsTheSameInEveryLanguage) {
+  const tests::TurkishLanguage language;
+  auto approval = store.approvals->front();
+  approval.title = "SEND IN INK";
+  store.approve(approval);
+  EXPECT_THAT(store.activity->front().detail, ::testing::EndsWith(" can continue with send in ink."));
 }
 
 TEST_F(WorkspaceStoreTest, ATitleThatIsNoTextStillGivesAnEntry) {
