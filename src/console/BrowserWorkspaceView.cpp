@@ -124,6 +124,7 @@ Gtk::Widget* noteColumn() {
 
 BrowserWorkspaceView::BrowserWorkspaceView() : VStack(22) {
   auto* mock = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 520}, *browserMock());
+  mock->set_vexpand(false);
   auto* notes = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 300}, *noteColumn());
   notes->set_hexpand(false);
   add({Gtk::make_managed<SectionHeader>(

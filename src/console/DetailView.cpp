@@ -30,6 +30,7 @@ void DetailView::refresh() {
   shown_ = section;
   const bool focusMoves = holdsFocus();
   auto* next = padded(28, screen(section));
+  next->set_valign(Gtk::Align::START);
   setAccessibleName(*next, std::string(title(section)));
   set_child(*next);
   if (focusMoves)

@@ -8,7 +8,8 @@
 
 namespace quorvel {
 
-/// The console's centre column: the screen of the selected section, in a scroll area without bars.
+/// The console's centre column: the screen of the selected section, as high as its content, in a scroll area
+/// without bars.
 ///
 /// A screen is built when its section is turned to and gone, with whatever was typed into it, when another
 /// one is; it starts at its top. Where the focus was inside the old screen it goes to the new one as a whole,

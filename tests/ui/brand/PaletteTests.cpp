@@ -1,6 +1,7 @@
 #include "brand/QuorvelBrand.h"
 #include "brand/buttons.h"
 #include "brand/surfaces.h"
+#include "brand/tone.h"
 #include "layout/stacks.h"
 #include "support/TestWindow.h"
 
@@ -67,6 +68,21 @@ TEST(QuorvelCard, WithoutPaddingTheFrameIsTightAroundTheContent) {
   TestWindow window(*row, 300);
   EXPECT_EQ(card->get_width(), 100);
   EXPECT_EQ(card->get_height(), 40);
+}
+
+TEST(QuorvelCard, ItsOutlineLiesOverTheEdgeOfItsContent) {
+  auto* content = block();
+  content->add_css_class("dot");
+  setTone(*content, AccentTone::blue);
+  auto* card = quorvelCard(content, 0);
+  TestWindow stage(*hstack(0, {card}), 300);
+  const auto mixed = [](double under) { return under + (1 - under) * QuorvelBrand::line.alpha; };
+  constexpr auto blue = QuorvelBrand::blue;
+  const Color edge{mixed(blue.red), mixed(blue.green), mixed(blue.blue)};
+  EXPECT_THAT(stage.pixel(50, 20), IsColor(blue));
+  EXPECT_THAT(stage.pixel(50, 0), IsColor(edge));
+  EXPECT_THAT(stage.pixel(50, 39), IsColor(edge));
+  EXPECT_THAT(stage.pixel(50, 1), IsColor(blue)) << "one point wide";
 }
 
 TEST(QuorvelCard, IsFilledWithThePanelColour) {

@@ -2,6 +2,7 @@
 
 #include "brand/QuorvelBrand.h"
 #include "brand/StatusPill.h"
+#include "layout/Container.h"
 #include "support/TestWindow.h"
 
 namespace quorvel {
@@ -121,6 +122,16 @@ TEST_F(BrowserWorkspaceTest, ThePageHasAtLeast430PointsAndItsSidebar130WithinIts
   EXPECT_EQ(boundsIn(sidebar, label("Gmail")).get_x(), 14);
   EXPECT_EQ(boundsIn(sidebar, label("Gmail")).get_y(), 14) << "the folders are pushed to the top";
   EXPECT_EQ(around("Inbox", "browser-side-item").get_width(), 130);
+}
+
+TEST_F(BrowserWorkspaceTest, TheMockIsAsHighAsItsPageHoweverMuchRoomThereIs) {
+  const int natural = heightRequest(mock(), mock().get_width()).natural;
+  stage_.resize(852, 1100);
+  EXPECT_EQ(mock().get_height(), natural);
+  const auto draft = boundsIn(mock(), withClass("browser-draft"));
+  const auto lastMessage = boundsIn(mock(), around("Invoice exception", "browser-message"));
+  EXPECT_EQ(draft.get_y(), lastMessage.get_y() + lastMessage.get_height() + 10 + 8 + 10)
+      << "the least spacer and the gaps around it";
 }
 
 TEST_F(BrowserWorkspaceTest, TheHeldDraftStandsAtTheBottomOfThePage) {

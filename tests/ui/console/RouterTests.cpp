@@ -81,6 +81,17 @@ TEST_F(RouterTest, EveryScreenStandsTwentyEightPointsFromEachEdge) {
   }
 }
 
+TEST_F(RouterTest, EveryScreenHasItsNaturalHeightInAHighWindowToo) {
+  constexpr int margins = 2 * 28;
+  stage_.resize(1000, 1150);
+  for (const auto section : allCases<WorkspaceSection>()) {
+    select(section);
+    EXPECT_EQ(screen().get_height(),
+              heightRequest(screen(), screen().get_width() + margins).natural - margins)
+        << title(section);
+  }
+}
+
 TEST_F(RouterTest, EveryScreenFitsTheCentreOfTheSmallestWindow) {
   for (const auto section : allCases<WorkspaceSection>()) {
     select(section);
