@@ -9,6 +9,12 @@
 #include <string>
 
 namespace quorvel {
+namespace {
+
+/// So wide that the inspector is there and the four figures of the command centre fill one row beside it.
+constexpr int defaultWidth = 1540, defaultHeight = 960;
+
+} // namespace
 
 Glib::RefPtr<ConsoleApplication> ConsoleApplication::create(Gio::Application::Flags flags) {
   return Glib::make_refptr_for_instance(new ConsoleApplication(flags));
@@ -53,7 +59,7 @@ std::unique_ptr<Gtk::Window> ConsoleApplication::makeWindow() {
   header->add_css_class("slim");
   window->set_titlebar(*header);
   window->set_child(*Gtk::make_managed<ConsoleColumns>(store_, preferences_));
-  window->set_default_size(1560, 960);
+  window->set_default_size(defaultWidth, defaultHeight);
   return window;
 }
 

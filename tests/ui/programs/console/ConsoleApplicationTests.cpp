@@ -5,6 +5,7 @@
 #include "console/DetailView.h"
 #include "console/InspectorPanel.h"
 #include "console/SidebarView.h"
+#include "layout/AdaptiveGrid.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 #include "support/TextScale.h"
@@ -20,6 +21,14 @@ class ColumnsTest : public ::testing::Test {
   template <class Column>
   Gdk::Rectangle bounds() {
     return boundsIn(columns_, *all<Column>(columns_).front());
+  }
+  /// How many cards of the screen's grid stand in its first row.
+  std::size_t cardsInFirstRow() {
+    const auto cards = all<AdaptiveGrid>(columns_).front()->visibleChildren();
+    return static_cast<std::size_t>(std::ranges::count_if(cards, [&](auto* card) {
+      const auto first = boundsIn(columns_, *cards.front()), bounds = boundsIn(columns_, *card);
+      return bounds.get_y() < first.get_y() + first.get_height();
+    }));
   }
   bool showsInspector() { return all<InspectorPanel>(columns_).front()->get_mapped(); }
 
@@ -83,6 +92,32 @@ TEST_F(ColumnsTest, TheColumnsKeepTheirWidthsInLargeText) {
   EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
   EXPECT_LE(widthRequest(*all<SidebarView>(columns_).front()).minimum, 272);
   EXPECT_LE(widthRequest(*all<InspectorPanel>(columns_).front()).minimum, 320);
+}
+
+TEST_F(ColumnsTest, AWiderWindowLosesNoColumnOfCardsExceptWhereTheInspectorAppears) {
+  for (const auto section : {WorkspaceSection::overview, WorkspaceSection::pricing}) {
+    store_.selectedSection = section;
+    std::size_t before = 0;
+    for (int width = 1180; width <= 1780; width += 10) {
+      stage_.resize(width, 760);
+      const auto now = cardsInFirstRow();
+      if (width != 1500) {
+        EXPECT_GE(now, before) << title(section) << " at " << width;
+      }
+      before = now;
+    }
+    EXPECT_EQ(before, 4U) << title(section);
+  }
+}
+
+TEST_F(ColumnsTest, FourPlansStandSideBySideFromTheWidthAtWhichTheyFit) {
+  constexpr int needed = 272 + 28 + 4 * 230 + 3 * 14 + 28;
+  store_.selectedSection = WorkspaceSection::pricing;
+  for (const auto& [width, cards] :
+       {std::pair{needed - 1, 3U}, {needed, 4U}, {needed + 319, 3U}, {needed + 320, 4U}}) {
+    stage_.resize(width, 760);
+    EXPECT_EQ(cardsInFirstRow(), cards) << width;
+  }
 }
 
 TEST_F(ColumnsTest, TheInspectorFollowsTheStoreWhileItIsHidden) {
@@ -170,6 +205,20 @@ TEST_F(ConsoleApplicationTest, ControlWithOneToEightSelectsTheSectionsAndNoOther
     }
     EXPECT_TRUE(application_->get_actions_for_accel("<Control>9").empty());
     EXPECT_TRUE(application_->get_actions_for_accel("<Control>0").empty());
+  });
+}
+
+TEST_F(ConsoleApplicationTest, AtFirstTheFourFiguresFillOneRowBesideTheInspector) {
+  visit([&] {
+    ASSERT_TRUE(waitUntil([&] { return window().get_child()->get_width() > 0; }));
+    EXPECT_TRUE(all<InspectorPanel>(window()).front()->get_mapped());
+    auto* grid = all<AdaptiveGrid>(window()).front();
+    const auto tiles = grid->visibleChildren();
+    ASSERT_EQ(tiles.size(), 4U);
+    for (auto* tile : tiles)
+      EXPECT_EQ(boundsIn(*grid, *tile).get_y(), 0);
+    const auto last = boundsIn(*grid, *tiles.back());
+    EXPECT_EQ(last.get_x() + last.get_width(), grid->get_width()) << "no column stays empty";
   });
 }
 
