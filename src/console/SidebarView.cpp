@@ -6,13 +6,18 @@
 #include "brand/tone.h"
 #include "console/RecordRows.h"
 #include "layout/WidgetPer.h"
+#include "layout/scrollIntoView.h"
 #include "observation/observe.h"
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace quorvel {
 namespace {
+
+/// What the fade at an edge covers of the rows, in points.
+constexpr int fadeHeight = 24;
 
 /// A section with its count, if it has one. Its padding lies outside what can be pressed.
 class SidebarRow : public NavigationRow {
@@ -54,9 +59,10 @@ class Sections : public VStack {
 
   WorkspaceStore& store_;
   WidgetPer<WorkspaceSection, SidebarRow> rows_;
+  WorkspaceSection selected_;
 };
 
-Sections::Sections(WorkspaceStore& store) : VStack(6), store_(store) {
+Sections::Sections(WorkspaceStore& store) : VStack(6), store_(store), selected_(store.selectedSection) {
   add({sidebarCaption("Workspace", 16)});
   for (const auto section : allCases<WorkspaceSection>()) {
     auto* row =
@@ -68,8 +74,12 @@ Sections::Sections(WorkspaceStore& store) : VStack(6), store_(store) {
 }
 
 void Sections::refresh() {
-  for (const auto& [section, row] : rows_)
-    row->show(badge(section), store_.selectedSection == section);
+  const auto before = std::exchange(selected_, *store_.selectedSection);
+  for (const auto& [section, row] : rows_) {
+    row->show(badge(section), section == selected_);
+    if (section == selected_ && section != before)
+      scrollIntoView(*row, fadeHeight);
+  }
 }
 
 /// What waits for work is worth a badge only while there is some; how many apps are connected always is.

@@ -1,5 +1,6 @@
 #include "console/DetailView.h"
 
+#include "brand/QuorvelBrand.h"
 #include "console/AgentsView.h"
 #include "console/ApprovalsView.h"
 #include "console/BrowserWorkspaceView.h"
@@ -131,6 +132,19 @@ TEST_F(RouterTest, NoScrollBarIsEverShown) {
   window_.resize(1000, 300);
   EXPECT_FALSE(router_.get_vscrollbar()->get_mapped());
   EXPECT_FALSE(router_.get_hscrollbar()->get_mapped());
+}
+
+TEST_F(RouterTest, AFadeAtAnEdgeShowsThatMoreLiesBeyondIt) {
+  stage_.resize(1000, 300);
+  select(WorkspaceSection::approvals);
+  const auto inACard = [&](int y) { return stage_.pixel(boundsIn(row_, router_).get_x() + 28 + 9, y); };
+  const auto scroll = router_.get_vadjustment();
+  scroll->set_value(250);
+  EXPECT_THAT(inACard(0), IsColor(QuorvelBrand::background));
+  EXPECT_THAT(inACard(100), IsColor(QuorvelBrand::panel));
+  EXPECT_THAT(inACard(299), IsColor(QuorvelBrand::background));
+  scroll->set_value(scroll->get_upper() - scroll->get_page_size());
+  EXPECT_THAT(inACard(299 - 28 - 9), IsColor(QuorvelBrand::panel)) << "nothing lies below the last card";
 }
 
 TEST_F(RouterTest, KeysScrollAllTheSame) {

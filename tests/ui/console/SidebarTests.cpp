@@ -265,5 +265,39 @@ TEST_F(SidebarTest, InALowWindowTheBodyScrollsBelowTheHeadAndFollowsTheFocus) {
   EXPECT_LT(bounds(*buttonNamed(sidebar_, "+ New chat")).get_y(), 100);
 }
 
+TEST_F(SidebarTest, ARowThatIsSelectedFromElsewhereIsScrolledIntoView) {
+  stage_.resize(272, 400);
+  for (const auto section :
+       {WorkspaceSection::pricing, WorkspaceSection::overview, WorkspaceSection::security}) {
+    store_.selectedSection = section;
+    draw();
+    const auto head = bounds(*buttonNamed(sidebar_, "+ New chat"));
+    const auto place = bounds(row(section));
+    EXPECT_GE(place.get_y() - 10, head.get_y() + head.get_height()) << title(section);
+    EXPECT_LE(place.get_y() + place.get_height() + 10, 400) << title(section);
+  }
+}
+
+TEST_F(SidebarTest, WhatTheOwnerScrolledToStaysWhenAnotherThingChanges) {
+  stage_.resize(272, 400);
+  auto* scroller = all<Gtk::ScrolledWindow>(sidebar_).front();
+  const auto scroll = scroller->get_vadjustment();
+  scroll->set_value(scroll->get_upper());
+  const double before = scroll->get_value();
+  ASSERT_GT(before, 0);
+  store_.approveFirstPending();
+  draw();
+  EXPECT_EQ(scroll->get_value(), before);
+}
+
+TEST_F(SidebarTest, AFadeShowsThatMoreLiesBelow) {
+  auto* card = labelled(sidebar_, "LIVE MONITOR")->get_parent()->get_parent()->get_parent();
+  const auto middleOf = [&](int y) { return stage_.pixel(bounds(*card).get_x() + 7, y); };
+  stage_.resize(272, bounds(*card).get_y() + 30);
+  EXPECT_THAT(middleOf(sidebar_.get_height() - 1), IsColor(QuorvelBrand::background));
+  stage_.resize(272, bounds(*card).get_y() + card->get_height() + 18);
+  EXPECT_THAT(middleOf(bounds(*card).get_y() + card->get_height() - 7), IsColor(QuorvelBrand::panelRaised));
+}
+
 } // namespace
 } // namespace quorvel
