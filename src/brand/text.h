@@ -18,12 +18,13 @@ struct TextLook {
 /// A text that wraps where its room is too narrow and is never cut. Managed.
 Gtk::Label* text(const Glib::ustring& content, const TextLook& look);
 
-/// A text of one line, shortened with an ellipsis where its room is too narrow. Managed.
+/// A text of one line, shortened with an ellipsis where its room is too narrow; one that is shortened at its
+/// end shows all of it on hover. Managed.
 Gtk::Label* singleLine(const Glib::ustring& content, const TextLook& look,
                        Pango::EllipsizeMode where = Pango::EllipsizeMode::END);
 
-/// A text that wraps onto `lines` lines at the most and ends in an ellipsis where that is not enough.
-/// Managed.
+/// A text that wraps onto `lines` lines at the most and ends in an ellipsis where that is not enough; then
+/// all of it is shown on hover. Managed.
 Gtk::Label* text(const Glib::ustring& content, const TextLook& look, int lines);
 
 /// Gives any widget (a symbol, an entry) the font and colour of `look`.

@@ -43,7 +43,7 @@ class QuickRepeat {
 
 } // namespace
 
-void clickOn(Gtk::Widget& widget) {
+void pointAt(Gtk::Widget& widget) {
   auto* native = widget.get_native();
   double x = 0, y = 0, surfaceX = 0, surfaceY = 0;
   widget.translate_coordinates(dynamic_cast<Gtk::Widget&>(*native), widget.get_width() / 2.0,
@@ -52,7 +52,26 @@ void clickOn(Gtk::Widget& widget) {
   const auto window = gdk_x11_surface_get_xid(native->get_surface()->gobj());
   xdotool({"mousemove", "--window", std::to_string(window), std::to_string(static_cast<int>(x + surfaceX)),
            std::to_string(static_cast<int>(y + surfaceY))});
+}
+
+void clickOn(Gtk::Widget& widget) {
+  pointAt(widget);
   xdotool({"click", "1"});
+}
+
+std::string nextTooltip() {
+  GtkWidget* shown = nullptr;
+  const auto onMap = +[](GSignalInvocationHint*, guint, const GValue* values, gpointer found) -> gboolean {
+    auto* widget = static_cast<GtkWidget*>(g_value_get_object(values));
+    if (std::string_view(G_OBJECT_TYPE_NAME(widget)) == "GtkTooltipWindow")
+      *static_cast<GtkWidget**>(found) = widget;
+    return true;
+  };
+  const auto signal = g_signal_lookup("map", GTK_TYPE_WIDGET);
+  const auto hook = g_signal_add_emission_hook(signal, 0, onMap, &shown, nullptr);
+  const bool hasAppeared = waitUntil([&] { return shown != nullptr; });
+  g_signal_remove_emission_hook(signal, hook);
+  return hasAppeared ? all<Gtk::Label>(*Glib::wrap(shown)).front()->get_text() : "";
 }
 
 void strikeKey(const std::string& name) {

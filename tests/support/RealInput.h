@@ -8,6 +8,10 @@ namespace quorvel::tests {
 // Clicks and keys that take the whole way through the display server, as a user's do. The pointer and the
 // keyboard belong to the display, so tests that use them run by themselves.
 
+/// Puts the pointer over the middle of a widget that is on screen.
+void pointAt(Gtk::Widget& widget);
+/// The text of the next tooltip to appear.
+std::string nextTooltip();
 /// Clicks in the middle of a widget that is on screen.
 void clickOn(Gtk::Widget& widget);
 /// Strikes a key ("space", "Return", "Tab") in the window that the pointer is over.

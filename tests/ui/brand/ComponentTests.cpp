@@ -5,6 +5,7 @@
 #include "brand/StatusPill.h"
 #include "brand/text.h"
 #include "brand/tone.h"
+#include "support/RealInput.h"
 #include "support/TestWindow.h"
 #include "support/TurkishLanguage.h"
 
@@ -127,6 +128,31 @@ TEST(Tone, ATextTakesTheToneOfItselfAndOfAContainer) {
   TestWindow window(*both, 300);
   EXPECT_THAT(inkOf(*itself), IsColor(QuorvelBrand::gold));
   EXPECT_THAT(inkOf(*inside), IsColor(QuorvelBrand::green));
+}
+
+TEST(ShortenedText, ShowsAllOfItOnHover) {
+  const std::string title = "Book two consultation callbacks before the end of the week, in the morning";
+  constexpr TextLook look{TextStyle::callout};
+  for (auto* label : {singleLine(title, look), text(title, look, 2)}) {
+    TestWindow stage(*label, 160);
+    ASSERT_TRUE(label->get_layout()->is_ellipsized());
+    pointAt(*label);
+    EXPECT_EQ(nextTooltip(), title);
+  }
+}
+
+TEST(ShortenedText, HasNothingMoreToShowWhereItsRoomIsWideEnough) {
+  auto* label = singleLine("Book two callbacks", {TextStyle::callout});
+  TestWindow stage(*label, 60);
+  const auto hasTooltip = [&] {
+    g_autoptr(GtkTooltip) tooltip = GTK_TOOLTIP(g_object_new(GTK_TYPE_TOOLTIP, nullptr));
+    gboolean isShown = FALSE;
+    g_signal_emit_by_name(label->gobj(), "query-tooltip", 1, 1, FALSE, tooltip, &isShown);
+    return isShown == TRUE;
+  };
+  EXPECT_TRUE(hasTooltip());
+  stage.resize(400);
+  EXPECT_FALSE(hasTooltip());
 }
 
 TEST(Typography, TextGrowsWithTheTextSizeOfTheDesktop) {
