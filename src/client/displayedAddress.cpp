@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <glib.h>
 #include <memory>
+#include <optional>
 
 namespace quorvel {
 namespace {
@@ -30,7 +31,8 @@ std::string escaped(std::string_view text) {
 /// "https://" or "about:"; nothing where no scheme is named.
 std::string_view plainSchemeOf(std::string_view address) {
   constexpr std::size_t longest = 32;
-  const auto end = address.substr(0, longest).find_first_of(":/\\?#@");
+  constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.";
+  const auto end = address.substr(0, longest).find_first_not_of(letters);
   if (end == address.npos || end == 0 || address[end] != ':')
     return {};
   return address.substr(0, end + (address.substr(end).starts_with("://") ? 3 : 1));
@@ -50,14 +52,23 @@ std::string_view hostOf(std::string_view authority) {
   return at == authority.npos ? authority : authority.substr(at + 1);
 }
 
-/// In the letters the network knows the host by, in which no letter of another script looks like a Latin one.
-std::string inPunycode(std::string_view host) {
-  if (std::ranges::all_of(host, isPlain) ||
-      !g_utf8_validate(host.data(), static_cast<gssize>(host.size()), nullptr))
-    return escaped(host);
-  const std::unique_ptr<char, decltype(&g_free)> ascii(g_hostname_to_ascii(std::string(host).c_str()),
-                                                       &g_free);
-  return escaped(ascii ? std::string_view(ascii.get()) : host);
+/// The name that the network knows a host by; nothing where it knows none.
+std::optional<std::string> networkName(const std::string& host) {
+  constexpr std::string_view delimiters = "/\\?#@:"; // what some letters become is no part of a name
+  if (!g_utf8_validate(host.c_str(), static_cast<gssize>(host.size()), nullptr))
+    return std::nullopt;
+  const std::unique_ptr<char, decltype(&g_free)> name(g_hostname_to_ascii(host.c_str()), &g_free);
+  if (!name || std::string_view(name.get()).find_first_of(delimiters) != std::string_view::npos)
+    return std::nullopt;
+  return name.get();
+}
+
+/// In the letters the network knows it by, of which none looks like one of another script.
+std::string inPunycode(std::string_view hostAndPort) {
+  if (std::ranges::all_of(hostAndPort, isPlain))
+    return std::string(hostAndPort);
+  const std::string host(hostAndPort.substr(0, hostAndPort.find(':')));
+  return escaped(networkName(host).value_or(host)).append(escaped(hostAndPort.substr(host.size())));
 }
 
 /// The last letters tell whose host it is.

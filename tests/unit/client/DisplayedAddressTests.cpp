@@ -92,6 +92,19 @@ TEST(DisplayedAddress, AHostThatIsNotPlainLettersIsInPunycode) {
       << "a slash that is none";
 }
 
+TEST(DisplayedAddress, NoLetterOfAHostTurnsIntoItsEnd) {
+  EXPECT_THAT(look("https://app.quorvel.example\uff0fx.one.example:8443/y"),
+              Reads("https://app.quorvel.example%EF%BC%8Fx.one.example:8443", "/y"));
+  for (const std::string letter : {"\uff0f", "\uff20", "\uff1f", "\uff03", "\uff1a", "\u2100", "\uff3c"})
+    EXPECT_THAT(look("https://app.quorvel.example" + letter + "x.one.example/y").origin,
+                AllOf(StartsWith("https://app.quorvel.example%"), EndsWith("x.one.example")));
+}
+
+TEST(DisplayedAddress, ASchemeIsOfPlainLetters) {
+  EXPECT_THAT(look("\xff:x"), Reads("", "%FF:x"));
+  EXPECT_THAT(look("a%b:x"), Reads("", "a%b:x"));
+}
+
 TEST(DisplayedAddress, AVeryLongRestIsCutInItsMiddle) {
   const auto shown = look("https://one.example/begin" + std::string(1'000'000, 'x') + "end");
   EXPECT_EQ(shown.origin, "https://one.example");
