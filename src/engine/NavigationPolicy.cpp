@@ -1,13 +1,26 @@
 #include "engine/NavigationPolicy.h"
 
+#include <algorithm>
 #include <glib.h>
 #include <string_view>
 
 namespace quorvel {
+namespace {
+
+/// In lower case; empty where there is none or one longer than any that means something here. The library's
+/// own function for this keeps every scheme it has ever seen, and a page can think of many.
+std::string schemeOf(std::string_view address) {
+  constexpr std::size_t longest = 32;
+  const auto end = address.substr(0, longest).find(':');
+  std::string scheme(address.substr(0, end == address.npos ? 0 : end));
+  std::ranges::transform(scheme, scheme.begin(), g_ascii_tolower);
+  return scheme;
+}
+
+} // namespace
 
 NavigationChoice choose(const NavigationRequest& request) {
-  const char* lowerCaseScheme = g_uri_peek_scheme(request.address.c_str());
-  const std::string_view scheme = lowerCaseScheme ? lowerCaseScheme : "";
+  const auto scheme = schemeOf(request.address);
   if (scheme == "mailto" || scheme == "tel")
     return NavigationChoice::system;
   if (request.wantsWindow && (request.address.empty() || request.address == "about:blank"))

@@ -1,5 +1,6 @@
 #include "engine/NavigationPolicy.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace quorvel {
@@ -43,6 +44,18 @@ TEST(NavigationPolicy, AWindowWithoutAnAddressIsNothingToLoad) {
 TEST(NavigationPolicy, AWindowIsNoWayToRunAScriptOrReadAFile) {
   EXPECT_EQ(choose({"javascript:alert(1)", true}), NavigationChoice::nothing);
   EXPECT_EQ(choose({"file:///etc/passwd", true}), NavigationChoice::nothing);
+}
+
+TEST(NavigationPolicy, SchemesThatAPageThinksOfLeaveNothingBehind) {
+  const auto memory = [] {
+    long whole = 0, resident = 0; // in pages
+    std::ifstream("/proc/self/statm") >> whole >> resident;
+    return resident;
+  };
+  const auto before = memory();
+  for (int i = 0; i < 2'000; ++i)
+    EXPECT_EQ(choose({std::string(20'000, 'x') + std::to_string(i) + ":"}), NavigationChoice::view);
+  EXPECT_LT(memory() - before, 2'000) << "forty million letters were seen";
 }
 
 TEST(NavigationPolicy, ADroppedFileDoesNotReplaceThePage) {
