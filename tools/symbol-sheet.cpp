@@ -1,4 +1,5 @@
-// Draws every symbol at 16, 24 and 48 pixels, with its name, into one picture: symbol_sheet PICTURE
+// Draws every symbol, with its name, in three weights at 16, 24 and 48 pixels, into one picture: symbol-sheet
+// PICTURE
 #include "brand/StyleSheet.h"
 #include "brand/symbol.h"
 #include "layout/stacks.h"
@@ -9,7 +10,14 @@
 namespace quorvel {
 namespace {
 
-constexpr int columns = 4;
+constexpr int columns = 5;
+constexpr FontWeight weights[] = {FontWeight::regular, FontWeight::semibold, FontWeight::bold};
+
+bool isHeavierDrawing(const std::string& name) {
+  return std::ranges::any_of(EnumerationTable<FontWeight>::rows, [&](const auto& weight) {
+    return name.ends_with('.' + std::to_string(weight.weight));
+  });
+}
 
 std::vector<std::string> symbolNames() {
   constexpr std::string_view ending = "-symbolic.svg";
@@ -17,21 +25,24 @@ std::vector<std::string> symbolNames() {
   for (const auto& file :
        Gio::Resource::enumerate_children_global("/com/quorvel/Desktop/icons/scalable/actions"))
     names.push_back(file.substr(0, file.size() - ending.size()));
+  std::erase_if(names, isHeavierDrawing);
   std::ranges::sort(names);
   return names;
 }
 
-Gtk::Widget* sized(std::string_view name, int pixels) {
-  auto* image = symbol(name, {});
+Gtk::Widget* sized(std::string_view name, FontWeight weight, int pixels) {
+  auto* image = symbol(name, {.weight = weight});
   image->set_pixel_size(pixels);
   return image;
 }
 
 Gtk::Widget* specimen(const std::string& name) {
+  auto* drawings = vstack(4, {});
+  for (const auto weight : weights)
+    drawings->add({hstack(16, {sized(name, weight, 16), sized(name, weight, 24), sized(name, weight, 48)})});
   return padded(16, 12,
-                vstack(8, {hstack(16, {sized(name, 16), sized(name, 24), sized(name, 48)}),
-                           singleLine(name, {TextStyle::caption, {}, TextColor::secondaryInk},
-                                      Pango::EllipsizeMode::NONE)}));
+                vstack(8, {drawings, singleLine(name, {TextStyle::caption, {}, TextColor::secondaryInk},
+                                                Pango::EllipsizeMode::NONE)}));
 }
 
 Gtk::Widget* sheet() {

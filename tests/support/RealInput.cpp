@@ -69,7 +69,7 @@ std::string nextTooltip() {
   };
   const auto signal = g_signal_lookup("map", GTK_TYPE_WIDGET);
   const auto hook = g_signal_add_emission_hook(signal, 0, onMap, &shown, nullptr);
-  const bool hasAppeared = waitUntil([&] { return shown != nullptr; });
+  const bool hasAppeared = eventually([&] { return shown != nullptr; });
   g_signal_remove_emission_hook(signal, hook);
   return hasAppeared ? all<Gtk::Label>(*Glib::wrap(shown)).front()->get_text() : "";
 }
@@ -87,7 +87,7 @@ void holdKey(const std::string& name, Gtk::Widget& window) {
   keys->signal_key_pressed().connect([&](guint, guint, Gdk::ModifierType) { return ++presses < 0; }, false);
   window.add_controller(keys);
   xdotool({"keydown", name});
-  const bool hasRepeated = waitUntil([&] { return presses >= longEnough; });
+  const bool hasRepeated = eventually([&] { return presses >= longEnough; });
   xdotool({"keyup", name});
   window.remove_controller(keys);
   if (!hasRepeated)
@@ -96,7 +96,7 @@ void holdKey(const std::string& name, Gtk::Widget& window) {
 
 void focusOn(Gtk::Widget& widget) {
   auto& window = dynamic_cast<Gtk::Window&>(*widget.get_root());
-  if (!waitUntil([&] { return window.is_active(); }))
+  if (!eventually([&] { return window.is_active(); }))
     throw std::runtime_error("the window never got the keyboard");
   widget.grab_focus();
 }

@@ -1,6 +1,6 @@
 #include "e2e/stage/ChildProcess.h"
 #include "e2e/stage/Stage.h"
-#include "e2e/stage/eventually.h"
+#include "support/eventually.h"
 #include "torture/torture.h"
 
 #include <csignal>
@@ -33,7 +33,7 @@ class PreferenceTorture : public testing::Test {
   void killWhileItFlips(unsigned microseconds) const {
     const auto before = fs::last_write_time(file);
     const ChildProcess program(flips("1000000"), {}, file.parent_path().string() + ".log");
-    EXPECT_TRUE(eventually([&] { return fs::last_write_time(file) != before; }));
+    EXPECT_TRUE(quorvel::tests::eventually([&] { return fs::last_write_time(file) != before; }));
     g_usleep(microseconds); // no waiting for anything: each kill falls into another moment
     program.signal(SIGKILL);
   }

@@ -6,8 +6,8 @@
 
 namespace quorvel::e2e {
 
-/// Whether the whole torture was asked for, as `./dev torture` does. Otherwise it is a tenth of it, which shows
-/// that the torture itself works and finds what is badly broken.
+/// Whether the whole torture was asked for, as `./dev torture` does. Otherwise it is a tenth of it, which
+/// shows that the torture itself works and finds what is badly broken.
 inline bool isWhole() {
   return std::getenv("QUORVEL_WHOLE_TORTURE");
 }

@@ -98,7 +98,7 @@ TEST(SectionHeader, ItsEyebrowIsTheSameInEveryLanguage) {
   const TurkishLanguage language;
   ASSERT_EQ(Glib::ustring("Live").uppercase(), "LİVE") << "what the language would make of it";
   auto* header = Gtk::make_managed<SectionHeader>("Live requests", "Title", "Detail");
-  TestWindow stage(*header, 300);
+  TestWindow window(*header, 300);
   EXPECT_EQ(texts(*header).front(), "LIVE REQUESTS");
 }
 
@@ -118,6 +118,7 @@ TEST(MetricTile, ShowsItsFourPartsAndANewValueInPlace) {
   tile->setValue("4");
   EXPECT_THAT(texts(*tile), ElementsAre("Active requests", "4", "Routed or drafting"));
   EXPECT_EQ(boundsIn(*tile, *labelled(*tile, "4")).get_x(), 18);
+  EXPECT_EQ(all<Gtk::Image>(*tile).front()->get_icon_name(), "arrow.up.right.700-symbolic") << "bold";
 }
 
 TEST(Tone, ATextTakesTheToneOfItselfAndOfAContainer) {
@@ -134,7 +135,7 @@ TEST(ShortenedText, ShowsAllOfItOnHover) {
   const std::string title = "Book two consultation callbacks before the end of the week, in the morning";
   constexpr TextLook look{TextStyle::callout};
   for (auto* label : {singleLine(title, look), text(title, look, 2)}) {
-    TestWindow stage(*label, 160);
+    TestWindow window(*label, 160);
     ASSERT_TRUE(label->get_layout()->is_ellipsized());
     pointAt(*label);
     EXPECT_EQ(nextTooltip(), title);
@@ -143,7 +144,7 @@ TEST(ShortenedText, ShowsAllOfItOnHover) {
 
 TEST(ShortenedText, HasNothingMoreToShowWhereItsRoomIsWideEnough) {
   auto* label = singleLine("Book two callbacks", {TextStyle::callout});
-  TestWindow stage(*label, 60);
+  TestWindow window(*label, 60);
   const auto hasTooltip = [&] {
     g_autoptr(GtkTooltip) tooltip = GTK_TOOLTIP(g_object_new(GTK_TYPE_TOOLTIP, nullptr));
     gboolean isShown = FALSE;
@@ -151,7 +152,7 @@ TEST(ShortenedText, HasNothingMoreToShowWhereItsRoomIsWideEnough) {
     return isShown == TRUE;
   };
   EXPECT_TRUE(hasTooltip());
-  stage.resize(400);
+  window.resize(400);
   EXPECT_FALSE(hasTooltip());
 }
 

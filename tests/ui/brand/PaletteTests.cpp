@@ -75,14 +75,14 @@ TEST(QuorvelCard, ItsOutlineLiesOverTheEdgeOfItsContent) {
   content->add_css_class("dot");
   setTone(*content, AccentTone::blue);
   auto* card = quorvelCard(content, 0);
-  TestWindow stage(*hstack(0, {card}), 300);
+  TestWindow window(*hstack(0, {card}), 300);
   const auto mixed = [](double under) { return under + (1 - under) * QuorvelBrand::line.alpha; };
   constexpr auto blue = QuorvelBrand::blue;
   const Color edge{mixed(blue.red), mixed(blue.green), mixed(blue.blue)};
-  EXPECT_THAT(stage.pixel(50, 20), IsColor(blue));
-  EXPECT_THAT(stage.pixel(50, 0), IsColor(edge));
-  EXPECT_THAT(stage.pixel(50, 39), IsColor(edge));
-  EXPECT_THAT(stage.pixel(50, 1), IsColor(blue)) << "one point wide";
+  EXPECT_THAT(window.pixel(50, 20), IsColor(blue));
+  EXPECT_THAT(window.pixel(50, 0), IsColor(edge));
+  EXPECT_THAT(window.pixel(50, 39), IsColor(edge));
+  EXPECT_THAT(window.pixel(50, 1), IsColor(blue)) << "one point wide";
 }
 
 TEST(QuorvelCard, IsFilledWithThePanelColour) {

@@ -126,7 +126,7 @@ TEST_F(BrowserWorkspaceTest, ThePageHasAtLeast430PointsAndItsSidebar130WithinIts
 
 TEST_F(BrowserWorkspaceTest, TheMockIsAsHighAsItsPageHoweverMuchRoomThereIs) {
   const int natural = heightRequest(mock(), mock().get_width()).natural;
-  stage_.resize(852, 1100);
+  window_.resize(852, 1100);
   EXPECT_EQ(mock().get_height(), natural);
   const auto draft = boundsIn(mock(), withClass("browser-draft"));
   const auto lastMessage = boundsIn(mock(), around("Invoice exception", "browser-message"));

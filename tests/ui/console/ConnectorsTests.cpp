@@ -130,7 +130,7 @@ TEST_F(ConnectorsTest, TheIconTileIsASoftSquareThatKeepsTheConnectorsToneInBothS
   auto* tile = icon->get_parent();
   EXPECT_EQ(tile->get_width(), 38);
   EXPECT_EQ(tile->get_height(), 38);
-  EXPECT_EQ(icon->get_icon_name(), "creditcard.fill-symbolic");
+  EXPECT_EQ(icon->get_icon_name(), "creditcard.fill.600-symbolic");
   const auto bounds = boundsIn(view_, *tile);
   const auto corner = [&] { return window_.pixel(bounds.get_x() + 5, bounds.get_y() + 5); };
   const auto fill = corner();

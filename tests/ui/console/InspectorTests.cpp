@@ -55,7 +55,7 @@ TEST_F(InspectorTest, TheHeaderNamesTheSectionThatIsSelected) {
   store_.selectedSection = WorkspaceSection::security;
   EXPECT_THAT(shown(), IsSupersetOf({"Trust", "Controls"}));
   EXPECT_THAT(shown(), Not(Contains("Command Center")));
-  EXPECT_EQ(all<Gtk::Image>(inspector_).front()->get_icon_name(), "lock.shield-symbolic");
+  EXPECT_EQ(all<Gtk::Image>(inspector_).front()->get_icon_name(), "lock.shield.600-symbolic");
 }
 
 TEST_F(InspectorTest, AfterEveryApprovalIsApprovedTheFirstThreeAreStillThereAndNoneIsPending) {

@@ -84,7 +84,7 @@ TEST_F(RouterTest, EveryScreenStandsTwentyEightPointsFromEachEdge) {
 
 TEST_F(RouterTest, EveryScreenHasItsNaturalHeightInAHighWindowToo) {
   constexpr int margins = 2 * 28;
-  stage_.resize(1000, 1150);
+  window_.resize(1000, 1150);
   for (const auto section : allCases<WorkspaceSection>()) {
     select(section);
     EXPECT_EQ(screen().get_height(),
@@ -135,9 +135,9 @@ TEST_F(RouterTest, NoScrollBarIsEverShown) {
 }
 
 TEST_F(RouterTest, AFadeAtAnEdgeShowsThatMoreLiesBeyondIt) {
-  stage_.resize(1000, 300);
+  window_.resize(1000, 300);
   select(WorkspaceSection::approvals);
-  const auto inACard = [&](int y) { return stage_.pixel(boundsIn(row_, router_).get_x() + 28 + 9, y); };
+  const auto inACard = [&](int y) { return window_.pixel(boundsIn(row_, router_).get_x() + 28 + 9, y); };
   const auto scroll = router_.get_vadjustment();
   scroll->set_value(250);
   EXPECT_THAT(inACard(0), IsColor(QuorvelBrand::background));
@@ -177,18 +177,18 @@ TEST_F(RouterTest, FocusInsideTheOldScreenGoesToTheNewOneAsAWholeAndTabToItsFirs
   drawFrame(router_);
   EXPECT_EQ(focus(), &screen());
   EXPECT_EQ(scrolled(), 0);
-  stage_.window().child_focus(Gtk::DirectionType::TAB_FORWARD);
+  window_.child_focus(Gtk::DirectionType::TAB_FORWARD);
   EXPECT_EQ(focus(), all<Gtk::Switch>(screen()).front());
 }
 
 TEST_F(RouterTest, AScreenThatTookTheFocusAsAWholeIsNoStopOfTabAfterwards) {
-  stage_.resize(1000, 300);
+  window_.resize(1000, 300);
   buttonNamed(screen(), "Connectors")->grab_focus();
   select(WorkspaceSection::connectors);
   EXPECT_EQ(focus(), &screen());
   EXPECT_EQ(scrolled(), 0);
   outside_.grab_focus();
-  stage_.window().child_focus(Gtk::DirectionType::TAB_FORWARD);
+  window_.child_focus(Gtk::DirectionType::TAB_FORWARD);
   EXPECT_EQ(focus(), all<Gtk::Switch>(screen()).front());
 }
 

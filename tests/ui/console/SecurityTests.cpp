@@ -55,8 +55,8 @@ constexpr const char* spend = "Ad spend changes";
 constexpr const char* messages = "Customer-facing messages";
 constexpr const char* bookings = "Calendar bookings";
 constexpr const char* history = "Activity history";
-constexpr const char* closedShield = "lock.shield.fill-symbolic";
-constexpr const char* openLock = "lock.open.fill-symbolic";
+constexpr const char* closedShield = "lock.shield.fill.600-symbolic";
+constexpr const char* openLock = "lock.open.fill.600-symbolic";
 
 TEST_F(SecurityTest, ShowsTheHeaderTheFourSwitchesAndTheApprovals) {
   EXPECT_THAT(texts(*view_.get_first_child()),

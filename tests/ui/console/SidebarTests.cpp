@@ -266,7 +266,7 @@ TEST_F(SidebarTest, InALowWindowTheBodyScrollsBelowTheHeadAndFollowsTheFocus) {
 }
 
 TEST_F(SidebarTest, ARowThatIsSelectedFromElsewhereIsScrolledIntoView) {
-  stage_.resize(272, 400);
+  window_.resize(272, 400);
   for (const auto section :
        {WorkspaceSection::pricing, WorkspaceSection::overview, WorkspaceSection::security}) {
     store_.selectedSection = section;
@@ -279,7 +279,7 @@ TEST_F(SidebarTest, ARowThatIsSelectedFromElsewhereIsScrolledIntoView) {
 }
 
 TEST_F(SidebarTest, WhatTheOwnerScrolledToStaysWhenAnotherThingChanges) {
-  stage_.resize(272, 400);
+  window_.resize(272, 400);
   auto* scroller = all<Gtk::ScrolledWindow>(sidebar_).front();
   const auto scroll = scroller->get_vadjustment();
   scroll->set_value(scroll->get_upper());
@@ -292,10 +292,10 @@ TEST_F(SidebarTest, WhatTheOwnerScrolledToStaysWhenAnotherThingChanges) {
 
 TEST_F(SidebarTest, AFadeShowsThatMoreLiesBelow) {
   auto* card = labelled(sidebar_, "LIVE MONITOR")->get_parent()->get_parent()->get_parent();
-  const auto middleOf = [&](int y) { return stage_.pixel(bounds(*card).get_x() + 7, y); };
-  stage_.resize(272, bounds(*card).get_y() + 30);
+  const auto middleOf = [&](int y) { return window_.pixel(bounds(*card).get_x() + 7, y); };
+  window_.resize(272, bounds(*card).get_y() + 30);
   EXPECT_THAT(middleOf(sidebar_.get_height() - 1), IsColor(QuorvelBrand::background));
-  stage_.resize(272, bounds(*card).get_y() + card->get_height() + 18);
+  window_.resize(272, bounds(*card).get_y() + card->get_height() + 18);
   EXPECT_THAT(middleOf(bounds(*card).get_y() + card->get_height() - 7), IsColor(QuorvelBrand::panelRaised));
 }
 

@@ -26,7 +26,7 @@ class ClientHeldKeyTest : public ModelTest {
     window = std::make_unique<MainWindow>(*model, *application, *commands);
     application->add_window(*window);
     window->present();
-    ASSERT_TRUE(tests::waitUntil([&] { return window->get_mapped() && window->get_width() > 0; }));
+    ASSERT_TRUE(tests::eventually([&] { return window->get_mapped() && window->get_width() > 0; }));
   }
   void TearDown() override { window->close(); }
 
@@ -76,9 +76,9 @@ TEST_F(ClientHeldKeyTest, PressesEveryButtonOnce) {
 TEST_F(ClientHeldKeyTest, OpensTheMenuAndChoosesNothingFromIt) {
   auto* menu = tests::all<PrimaryMenu>(*window).front();
   menu->popup();
-  ASSERT_TRUE(tests::waitUntil([&] { return menu->get_popover()->get_mapped(); }));
+  ASSERT_TRUE(tests::eventually([&] { return menu->get_popover()->get_mapped(); }));
   menu->popdown();
-  ASSERT_TRUE(tests::waitUntil([&] { return !menu->get_popover()->get_mapped(); }));
+  ASSERT_TRUE(tests::eventually([&] { return !menu->get_popover()->get_mapped(); }));
   focusOn(*tests::all<Gtk::ToggleButton>(*menu).front());
   holdKey("Return", *menu->get_popover());
   EXPECT_EQ(settingsShown, 0);
@@ -92,7 +92,7 @@ TEST_F(ClientHeldKeyTest, IsRepeatedInThePageItWentDownIn) {
   focusOn(model->webView().widget());
   runScript("document.querySelector('textarea').focus()");
   holdKey("space", *window);
-  EXPECT_TRUE(tests::waitUntil([&] { return model->currentURLString->ends_with("#typed"); }));
+  EXPECT_TRUE(tests::eventually([&] { return model->currentURLString->ends_with("#typed"); }));
 }
 
 TEST_F(ClientHeldKeyTest, IsNotRepeatedInAPageThatTheFocusCameTo) {

@@ -99,7 +99,7 @@ TEST_F(ColumnsTest, AWiderWindowLosesNoColumnOfCardsExceptWhereTheInspectorAppea
     store_.selectedSection = section;
     std::size_t before = 0;
     for (int width = 1180; width <= 1780; width += 10) {
-      stage_.resize(width, 760);
+      window_.resize(width, 760);
       const auto now = cardsInFirstRow();
       if (width != 1500) {
         EXPECT_GE(now, before) << title(section) << " at " << width;
@@ -115,7 +115,7 @@ TEST_F(ColumnsTest, FourPlansStandSideBySideFromTheWidthAtWhichTheyFit) {
   store_.selectedSection = WorkspaceSection::pricing;
   for (const auto& [width, cards] :
        {std::pair{needed - 1, 3U}, {needed, 4U}, {needed + 319, 3U}, {needed + 320, 4U}}) {
-    stage_.resize(width, 760);
+    window_.resize(width, 760);
     EXPECT_EQ(cardsInFirstRow(), cards) << width;
   }
 }
@@ -210,7 +210,7 @@ TEST_F(ConsoleApplicationTest, ControlWithOneToEightSelectsTheSectionsAndNoOther
 
 TEST_F(ConsoleApplicationTest, AtFirstTheFourFiguresFillOneRowBesideTheInspector) {
   visit([&] {
-    ASSERT_TRUE(waitUntil([&] { return window().get_child()->get_width() > 0; }));
+    ASSERT_TRUE(eventually([&] { return window().get_child()->get_width() > 0; }));
     EXPECT_TRUE(all<InspectorPanel>(window()).front()->get_mapped());
     auto* grid = all<AdaptiveGrid>(window()).front();
     const auto tiles = grid->visibleChildren();

@@ -54,14 +54,14 @@ class Console {
       state.switches.push_back(preferences_.isOn(key));
     return state;
   }
-  void hold(const std::string& key) { holdKey(key, stage_.window()); }
+  void hold(const std::string& key) { holdKey(key, window_); }
 
  private:
   TemporaryFolder folder_;
   WorkspaceStore store_;
   Preferences preferences_{folder_.path / "preferences.ini"};
   ConsoleColumns columns_{store_, preferences_};
-  TestWindow stage_{columns_, 1180, 1100};
+  TestWindow window_{columns_, 1180, 1100};
 };
 
 State afterOnePress(WorkspaceSection section, std::size_t index) {
