@@ -179,23 +179,22 @@ void LazyGrid::keepInPlace(const RowHeights& before) {
   scroll_->set_value(scroll_->get_value() + shift);
 }
 
-/// Calls `visit(cells, line)` for every line that is there as a whole.
+/// Calls `visit(cells, first)` for the cells of every line, of which the first stands at this place in the
+/// list.
 template <class Visit>
 void LazyGrid::forEachLine(std::size_t perLine, const Visit& visit) const {
   const auto cells = visibleChildren();
   const auto there = std::min(cells.size(), places_.size());
   for (std::size_t first = 0, end = 0; first < there; first = end) {
-    const auto line = places_[first] / perLine;
-    for (end = first; end < there && places_[end] / perLine == line;)
+    for (end = first; end < there && places_[end] / perLine == places_[first] / perLine;)
       ++end;
-    const auto whole = std::min(perLine, count() - std::min(count(), line * perLine));
-    if (places_[first] % perLine == 0 && end - first == whole)
-      visit(std::vector(cells.begin() + static_cast<std::ptrdiff_t>(first),
-                        cells.begin() + static_cast<std::ptrdiff_t>(end)),
-            line);
+    visit(std::vector(cells.begin() + static_cast<std::ptrdiff_t>(first),
+                      cells.begin() + static_cast<std::ptrdiff_t>(end)),
+          places_[first]);
   }
 }
 
+/// Of the cells that are there: as long as a line lacks some, its height is not to be relied on.
 int LazyGrid::lineHeight(const std::vector<Gtk::Widget*>& cells, int width, std::size_t perLine) const {
   int height = 0;
   for (std::size_t i = 0; i < cells.size(); ++i)
@@ -205,9 +204,10 @@ int LazyGrid::lineHeight(const std::vector<Gtk::Widget*>& cells, int width, std:
 }
 
 void LazyGrid::measureLines(RowHeights& heights, int width, std::size_t perLine) const {
-  forEachLine(perLine, [&](const auto& cells, std::size_t line) {
-    if (line < heights.count())
-      heights.setHeight(line, lineHeight(cells, width, perLine));
+  forEachLine(perLine, [&](const auto& cells, std::size_t first) {
+    const bool isWhole = first % perLine == 0 && (cells.size() == perLine || first + cells.size() == count());
+    if (isWhole && first / perLine < heights.count())
+      heights.setHeight(first / perLine, lineHeight(cells, width, perLine));
   });
 }
 
@@ -235,14 +235,13 @@ void LazyGrid::size_allocate_vfunc(int width, int, int) {
   followWidth(width);
   measureLines(heights_, width, perLine_);
   const bool isMirrored = get_direction() == Gtk::TextDirection::RTL;
-  forEachLine(perLine_, [&](const auto& cells, std::size_t line) {
-    const int height = lineHeight(cells, width, perLine_);
+  forEachLine(perLine_, [&](const auto& cells, std::size_t first) {
+    const int top = heights_.top(first / perLine_), height = lineHeight(cells, width, perLine_);
     for (std::size_t i = 0; i < cells.size(); ++i) {
-      const auto [x, cellWidth] = columnAt(i, perLine_, width, form_.spacing);
+      const auto [x, cellWidth] = columnAt((first + i) % perLine_, perLine_, width, form_.spacing);
       const int cellHeight = heightRequest(*cells[i], cellWidth).natural;
       cells[i]->size_allocate(Gtk::Allocation(isMirrored ? width - x - cellWidth : x,
-                                              heights_.top(line) + (height - cellHeight) / 2, cellWidth,
-                                              cellHeight),
+                                              top + (height - cellHeight) / 2, cellWidth, cellHeight),
                               -1);
     }
   });

@@ -13,8 +13,18 @@ KINDS = "house|unit|ui|e2e|torture"
 
 
 def names_of_tests(build):
+    """Of each test of the build; where one command runs a whole suite, of each test in it."""
     listed = subprocess.check_output(["ctest", "--test-dir", build, "--show-only=json-v1"], text=True)
-    return [test["name"] for test in json.loads(listed)["tests"]]
+    names = []
+    for test in json.loads(listed)["tests"]:
+        suite = [word for word in test.get("command", []) if re.fullmatch(r"--gtest_filter=.*\.\*", word)]
+        if not suite:
+            names.append(test["name"])
+            continue
+        inside = subprocess.check_output([test["command"][0], suite[0], "--gtest_list_tests"], text=True)
+        cases = [line.split("#")[0].strip() for line in inside.splitlines() if line.startswith("  ")]
+        names += [f"{test['name']}.{case}" for case in cases]
+    return names
 
 
 def is_there(named, tests):

@@ -15,13 +15,18 @@ using tests::holdKey;
 /// The program's window on a real model, under a real keyboard.
 class ClientHeldKeyTest : public ModelTest {
  protected:
+  static void SetUpTestSuite() {
+    application = Gtk::Application::create("com.quorvel.Test");
+    application->register_application();
+  }
+  static void TearDownTestSuite() { application.reset(); }
+
   void SetUp() override {
     show("/agent.html");
     commands.emplace(*model, Commands::Program{.showSettings = [this] { ++settingsShown; },
                                                .showShortcuts = [] {},
                                                .showAbout = [] {},
                                                .quit = [] {}});
-    application->register_application();
     commands->addTo(*application);
     window = std::make_unique<MainWindow>(*model, *application, *commands);
     application->add_window(*window);
@@ -37,7 +42,7 @@ class ClientHeldKeyTest : public ModelTest {
   }
 
   int settingsShown = 0;
-  Glib::RefPtr<Gtk::Application> application = Gtk::Application::create("com.quorvel.Test");
+  static inline Glib::RefPtr<Gtk::Application> application;
   std::optional<Commands> commands;
   std::unique_ptr<MainWindow> window;
 };

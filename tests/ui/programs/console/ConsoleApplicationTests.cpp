@@ -6,6 +6,7 @@
 #include "console/InspectorPanel.h"
 #include "console/SidebarView.h"
 #include "layout/AdaptiveGrid.h"
+#include "layout/LazyGrid.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 #include "support/TextScale.h"
@@ -22,9 +23,16 @@ class ColumnsTest : public ::testing::Test {
   Gdk::Rectangle bounds() {
     return boundsIn(columns_, *all<Column>(columns_).front());
   }
+  /// The screen's first grid, of whichever kind.
+  Container& grid() {
+    for (auto* container : all<Container>(columns_))
+      if (dynamic_cast<AdaptiveGrid*>(container) || dynamic_cast<LazyGrid*>(container))
+        return *container;
+    throw std::runtime_error("the screen has no grid");
+  }
   /// How many cards of the screen's grid stand in its first row.
   std::size_t cardsInFirstRow() {
-    const auto cards = all<AdaptiveGrid>(columns_).front()->visibleChildren();
+    const auto cards = grid().visibleChildren();
     return static_cast<std::size_t>(std::ranges::count_if(cards, [&](auto* card) {
       const auto first = boundsIn(columns_, *cards.front()), bounds = boundsIn(columns_, *card);
       return bounds.get_y() < first.get_y() + first.get_height();
@@ -129,9 +137,10 @@ TEST_F(ColumnsTest, TheInspectorFollowsTheStoreWhileItIsHidden) {
 
 TEST_F(ColumnsTest, TheGradientShowsBehindTheCentreFromCornerToCorner) {
   store_.selectedSection = WorkspaceSection::pricing;
+  window_.resize(1180, 1800); // nothing lies below, so nothing fades
   drawFrame(columns_);
   const auto upper = window_.pixel(280, 5);
-  const auto lower = window_.pixel(1175, 755);
+  const auto lower = window_.pixel(1175, 1795);
   EXPECT_THAT(lower, IsColor(QuorvelBrand::windowGradient()[2]));
   EXPECT_THAT(upper, ::testing::Not(IsColor(lower)));
 }
