@@ -15,6 +15,7 @@ struct ServiceOptions {
   std::string key;                      ///< PEM file
   std::vector<std::string> pageFolders; ///< searched in this order
   std::string log;                      ///< empty: no log is kept
+  bool tellsHost = false;               ///< only asked which host it stands in for; the rest may be missing
 };
 
 /// A command line that cannot be obeyed; what() is one sentence for the person who typed it.

@@ -18,6 +18,10 @@ int main(int argc, char** argv) {
   Gio::init();
   try {
     const auto options = parseServiceOptions(argc, argv);
+    if (options.tellsHost) {
+      std::cout << std::string_view(QUORVEL_ORIGIN).substr(std::string_view("https://").size()) << "\n";
+      return 0;
+    }
     const DemoService service(options);
     std::cout << "listening on https://" << options.address << ":" << options.port << std::endl;
     Glib::MainLoop::create()->run();

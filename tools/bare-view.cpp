@@ -1,16 +1,18 @@
-// The yardstick of the start-up benchmark: a window with a web view and nothing else.
+// The yardstick of the start-up benchmark: a window with a web view on a page of the service, and nothing
+// else.
 
+#include <string>
 #include <webkit/webkit.h>
 
 int main(int argc, char** argv) {
   if (argc != 2) {
-    g_printerr("usage: bare_view ADDRESS\n");
+    g_printerr("usage: bare-view PATH\n");
     return 2;
   }
-  g_set_prgname("bare_view");
+  g_set_prgname("bare-view");
   gtk_init();
   const auto view = webkit_web_view_new();
-  webkit_web_view_load_uri(WEBKIT_WEB_VIEW(view), argv[1]);
+  webkit_web_view_load_uri(WEBKIT_WEB_VIEW(view), (std::string(QUORVEL_ORIGIN) + argv[1]).c_str());
 
   const auto window = gtk_window_new();
   gtk_window_set_default_size(GTK_WINDOW(window), 1180, 760);

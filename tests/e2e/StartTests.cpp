@@ -10,7 +10,7 @@ TEST_F(StartTest, TheFirstRequestIsTheAgentPageAndNamesTheClient) {
   ASSERT_TRUE(eventually([&] { return !stage.requests().requests().empty(); }));
   const auto first = stage.requests().requests().front();
   EXPECT_EQ(first.method, "GET");
-  EXPECT_EQ(first.host, "app.quorvel.example");
+  EXPECT_EQ("https://" + first.host, origin);
   EXPECT_EQ(first.target, agentPage);
   EXPECT_THAT(first.userAgent, EndsWith("Quorvel Desktop"));
 }

@@ -41,7 +41,8 @@ class CertificateTorture : public ClientTest {
  protected:
   CertificateTorture() {
     fs::create_directories(folder);
-    outputOf({QUORVEL_MAKE_CERTIFICATES, std::getenv("QUORVEL_NETWORK"), folder});
+    outputOf({QUORVEL_MAKE_CERTIFICATES, std::getenv("QUORVEL_NETWORK"), folder,
+              origin.substr(std::string("https://").size())});
     for (const auto& site : sites)
       open(site);
   }
@@ -55,7 +56,8 @@ class CertificateTorture : public ClientTest {
   /// A page that asks each site for something and reports whether it came.
   static std::string pageThatAsks() {
     std::string script =
-        "const ask = (name, port) => fetch(`https://app.quorvel.example:${port}/pricing.html`,"
+        "const ask = (name, port) => fetch(`" + origin +
+        ":${port}/pricing.html`,"
         " {mode: 'no-cors'}).then(() => report(name + '=shown'), () => report(name + '=refused'));";
     for (const auto& site : sites)
       script += "ask('" + site.name + "', " + std::to_string(portOf(site)) + ");";

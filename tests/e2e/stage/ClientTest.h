@@ -23,7 +23,7 @@ using testing::Not;
 using testing::SizeIs;
 using tests::eventually;
 
-inline const std::string origin = "https://app.quorvel.example";
+inline const std::string origin = QUORVEL_ORIGIN;
 inline const std::string agentPage = "/agent.html?source=mac_app";
 
 /// A link that covers the whole page, so that a click anywhere follows it.

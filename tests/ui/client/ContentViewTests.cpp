@@ -6,6 +6,7 @@
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
 #include "client/QuorvelWebView.h"
+#include "client/ServiceOrigin.h"
 #include "client/WarningBar.h"
 #include "support/TextChecks.h"
 #include "support/TextScale.h"
@@ -89,16 +90,15 @@ class ContentViewTest : public ModelTest {
 };
 
 TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
-  EXPECT_THAT(
-      tests::texts(*view),
-      ElementsAre(
-          "Quorvel", "Desktop agent client", "+ New chat", "Live app", "Agent workspace",
-          "Chats and approvals", "Connectors", "Apps and access", "Browser workspace", "Page context",
-          "Voice agent", "Calls and scheduling", "Pricing", "Plans and billing", "Support",
-          "Help and contact", "LIVE BACKEND", "WebKit",
-          "This app is connected to app.quorvel.example, so sign-in, sessions, billing, connectors, and "
-          "the agent workspace run through the live service.",
-          server.address(""), "/agent.html", "Open externally"));
+  EXPECT_THAT(tests::texts(*view),
+              ElementsAre("Quorvel", "Desktop agent client", "+ New chat", "Live app", "Agent workspace",
+                          "Chats and approvals", "Connectors", "Apps and access", "Browser workspace",
+                          "Page context", "Voice agent", "Calls and scheduling", "Pricing",
+                          "Plans and billing", "Support", "Help and contact", "LIVE BACKEND", "WebKit",
+                          "This app is connected to " + std::string(serviceHost) +
+                              ", so sign-in, sessions, billing, connectors, and the agent workspace run "
+                              "through the live service.",
+                          server.address(""), "/agent.html", "Open externally"));
   EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
 }
 

@@ -16,7 +16,7 @@ using DesktopBrowserModelTest = ModelTest;
 
 TEST_F(DesktopBrowserModelTest, BeforeAnyNavigationEventTheFieldsHaveTheirInitialValues) {
   EXPECT_EQ(*model->title, "Quorvel");
-  EXPECT_EQ(*model->currentURLString, "https://app.quorvel.example/agent.html?source=mac_app");
+  EXPECT_EQ(*model->currentURLString, url(QuorvelRoute::agent));
   EXPECT_FALSE(model->canGoBack);
   EXPECT_FALSE(model->canGoForward);
   EXPECT_FALSE(model->isLoading);
