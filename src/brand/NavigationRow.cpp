@@ -11,8 +11,8 @@ NavigationRow::NavigationRow(const Glib::ustring& title, const Glib::ustring& su
     : HStack(0), symbol_(symbol(symbolName, {TextStyle::body, FontWeight::semibold})),
       title_(text(title, {TextStyle::body, FontWeight::bold})) {
   constexpr TextLook detail{TextStyle::caption, FontWeight::semibold, TextColor::muted};
-  label_ =
-      hstack(12, {framed({.width = 22}, symbol_), vstack(2, {title_, text(subtitle, detail)}), hspacer()});
+  label_ = hstack(
+      12, {framed({.minimumWidth = 22}, symbol_), vstack(2, {title_, text(subtitle, detail)}), hspacer()});
   button_ = button(label_, ButtonStyle::plain, std::move(action));
   panel_ = target == Target::panel ? static_cast<Gtk::Widget*>(button_) : this;
   padded(12, 10, target == Target::panel ? static_cast<Gtk::Widget*>(label_) : button_);

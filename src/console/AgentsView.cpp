@@ -43,8 +43,7 @@ class AgentCard : public VStack {
  public:
   explicit AgentCard(const AgentProfile& agent)
       : VStack(0), monogram_(text("", {TextStyle::caption, FontWeight::black, TextColor::tone})),
-        badge_(framed({.width = 42, .height = 42}, monogram_)),
-        load_(Gtk::make_managed<StatusPill>("", agent.tone)),
+        badge_(tile(42, monogram_)), load_(Gtk::make_managed<StatusPill>("", agent.tone)),
         name_(text("", {TextStyle::title3, FontWeight::semibold})),
         focus_(text("", {TextStyle::callout, {}, TextColor::secondaryInk})), now_(factValue()),
         output_(factValue()), signal_(factValue()) {

@@ -36,8 +36,9 @@ Gtk::Widget* sidebar() {
   auto* folders = vstack(12, {text("Gmail", {TextStyle::headline}), sideItem({"Inbox", "1,323", true}),
                               sideItem({"Starred", "", false}), sideItem({"Sent", "", false}),
                               sideItem({"Drafts", "8", false}), vspacer()});
-  return surface("browser-sidebar",
-                 padded(14, Gtk::make_managed<Frame>(Frame::Size{.width = 130}, *folders)));
+  auto* column = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = 130}, *folders);
+  column->set_hexpand(false);
+  return surface("browser-sidebar", padded(14, column));
 }
 
 struct BrowserMessage {

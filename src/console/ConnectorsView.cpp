@@ -18,8 +18,7 @@ class ConnectorCard : public VStack {
   ConnectorCard(const ConnectorItem& connector, const Action& toggle)
       : VStack(0),
         symbol_(symbol(connector.symbol, {TextStyle::title3, FontWeight::semibold, TextColor::tone})),
-        tile_(framed({.width = 38, .height = 38}, symbol_)),
-        state_(Gtk::make_managed<StatusPill>("", connector.tone)),
+        tile_(tile(38, symbol_)), state_(Gtk::make_managed<StatusPill>("", connector.tone)),
         name_(text("", {TextStyle::title3, FontWeight::semibold})),
         category_(text("", {TextStyle::callout, {}, TextColor::secondaryInk})),
         lastSync_(text("", {TextStyle::caption, {}, TextColor::dimmed})),

@@ -56,7 +56,7 @@ class InspectorStat : public VStack {
 };
 
 Gtk::Widget* haloedDot(AccentTone tone) {
-  auto* halo = toned(tone, framed({.width = 24, .height = 24}, dot(tone, 8)));
+  auto* halo = toned(tone, tile(24, dot(tone, 8)));
   halo->add_css_class("soft-circle");
   return halo;
 }

@@ -41,7 +41,7 @@ class TrustToggle : public VStack {
       : VStack(0),
         icon_(symbol("lock.shield.fill", {TextStyle::title3, FontWeight::semibold, TextColor::tone})),
         switch_(Gtk::make_managed<ModelSwitch>(std::move(write))) {
-    auto* tile = toned(gate.tone, framed({.width = 42, .height = 42}, icon_));
+    auto* tile = toned(gate.tone, quorvel::tile(42, icon_));
     tile->add_css_class("soft-tile");
     auto* texts = vstack(4, {text(gate.title, {TextStyle::headline}),
                              text(gate.detail, {TextStyle::callout, {}, TextColor::secondaryInk})});
@@ -91,7 +91,8 @@ class ApprovalStateRow : public VStack {
         risk_(text("", {TextStyle::caption, {}, TextColor::dimmed})),
         state_(Gtk::make_managed<StatusPill>("", tone(approval.state))) {
     add({padded(0, 8,
-                hstack(12, {framed({.width = 22}, icon_), vstack(3, {title_, risk_}), hspacer(), state_},
+                hstack(12,
+                       {framed({.minimumWidth = 22}, icon_), vstack(3, {title_, risk_}), hspacer(), state_},
                        VerticalAlignment::top))});
     show(approval);
   }

@@ -17,15 +17,21 @@ std::optional<int> Frame::ownWidth() const {
   return size_.width;
 }
 
+std::optional<int> Frame::ownHeight(int width) const {
+  if (size_.minimumHeight)
+    return std::max(heightRequest(child_, width).minimum, *size_.minimumHeight);
+  return size_.height;
+}
+
 void Frame::measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
                           int& minimumBaseline, int& naturalBaseline) const {
   minimumBaseline = naturalBaseline = -1;
   const bool isHorizontal = orientation == Gtk::Orientation::HORIZONTAL;
-  if (const auto own = isHorizontal ? ownWidth() : size_.height) {
+  const int width = size_.width || forSize < 0 ? ownWidth().value_or(-1) : forSize;
+  if (const auto own = isHorizontal ? ownWidth() : ownHeight(width)) {
     minimum = natural = *own;
     return;
   }
-  const int width = size_.width || forSize < 0 ? ownWidth().value_or(-1) : forSize;
   const auto request = isHorizontal ? widthRequest(child_) : heightRequest(child_, width);
   minimum = request.minimum;
   natural = request.natural;
@@ -41,6 +47,10 @@ Frame* framed(Frame::Size size, Gtk::Widget* child) {
   child->set_halign(Gtk::Align::CENTER);
   child->set_valign(Gtk::Align::CENTER);
   return Gtk::make_managed<Frame>(size, *child);
+}
+
+Frame* tile(int side, Gtk::Widget* child) {
+  return framed({.minimumWidth = side, .minimumHeight = side}, child);
 }
 
 } // namespace quorvel

@@ -13,4 +13,8 @@ std::vector<std::string> cutTexts(Gtk::Widget& screen);
 /// Each pair of texts that lie over one another.
 std::vector<std::string> overlappingTexts(Gtk::Widget& screen);
 
+/// Each pair of neighbours of which one lies over the other, and whatever sticks out of the panel or column
+/// around it, by the texts in them.
+std::vector<std::string> overlappingParts(Gtk::Widget& screen);
+
 } // namespace quorvel::tests

@@ -102,12 +102,20 @@ TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
   EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
 }
 
-TEST_F(ContentViewTest, InLargeTextNothingIsCut) {
-  close();
-  const tests::TextScale large(1.5);
-  open();
-  EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
-  EXPECT_EQ(view->get_height(), 760) << "the destinations scroll where there is no room for all of them";
+TEST_F(ContentViewTest, InLargeTextNothingIsCutAndNothingOverlaps) {
+  for (const double factor : {1.0, 1.5, 2.0}) {
+    SCOPED_TRACE(factor);
+    close();
+    const tests::TextScale large(factor);
+    open();
+    EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
+    EXPECT_THAT(tests::overlappingTexts(*view), IsEmpty());
+    EXPECT_THAT(tests::overlappingParts(*view), IsEmpty());
+    EXPECT_EQ(view->get_height(), 760) << "the destinations scroll where there is no room for all of them";
+    if (factor < 2) {
+      EXPECT_EQ(the<DesktopClientSidebar>().get_width(), 306);
+    }
+  }
 }
 
 TEST_F(ContentViewTest, AtTheLeastWidthTheSidebarKeepsItsWidthAndThePageTakesTheRest) {

@@ -2,6 +2,8 @@
 #include "settings/SettingsView.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
+#include "support/TextChecks.h"
+#include "support/TextScale.h"
 
 #include <filesystem>
 #include <fstream>
@@ -155,6 +157,20 @@ TEST_F(SettingsViewTest, TheFocusIsShownAroundTheSwitchAloneAndNotAroundItsConta
     return ::testing::Value(window->pixel(switchBounds.get_x() - 2, middle), IsColor(QuorvelBrand::blue));
   })) << "the theme lets the outline grow";
   EXPECT_THAT(window->pixel(22, middle), IsColor(QuorvelBrand::background));
+}
+
+TEST_F(SettingsViewTest, InLargeTextNothingIsCutAndNothingOverlaps) {
+  for (const double factor : {1.0, 1.5, 2.0}) {
+    SCOPED_TRACE(factor);
+    window.reset();
+    const TextScale large(factor);
+    view = Gtk::make_managed<SettingsView>(*preferences);
+    window = std::make_unique<TestWindow>(*view, 520);
+    EXPECT_THAT(cutTexts(*view), ::testing::IsEmpty());
+    EXPECT_THAT(overlappingTexts(*view), ::testing::IsEmpty());
+    EXPECT_THAT(overlappingParts(*view), ::testing::IsEmpty());
+    EXPECT_EQ(view->get_width(), 520);
+  }
 }
 
 TEST_F(SettingsViewTest, TheFormIs520PointsWideWith24PointsOfPadding) {
