@@ -1,6 +1,7 @@
 #include "brand/StyleSheet.h"
 #include "brand/heldKeys.h"
 #include "startup/messageBuses.h"
+#include "support/DisplayLease.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -44,10 +45,8 @@ int main(int argc, char** argv) {
   g_setenv("GSETTINGS_BACKEND", "memory", true);
 
   quorvel::keepUsableBuses();
-  if (!gtk_init_check()) {
-    g_printerr("The tests of widgets need a display; ./dev test starts a virtual one.\n");
-    return 1;
-  }
+  const quorvel::tests::DisplayLease display;
+  gtk_init();
   Gtk::Application::create();
   quorvel::installStyle();
   quorvel::letHeldKeysActOnce();

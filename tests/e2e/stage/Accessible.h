@@ -1,15 +1,22 @@
 #pragma once
 
-#include <atspi/atspi.h>
+#include <atspi/atspi-constants.h>
+#include <glib.h>
 #include <memory>
 #include <optional>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace quorvel::e2e {
 
-/// One object of the accessibility tree, as an assistive program sees it: asked afresh each time, nothing is
-/// cached. An object that has gone says "" to every question.
+struct ForgetVariant {
+  void operator()(GVariant* variant) const { g_variant_unref(variant); }
+};
+using Variant = std::unique_ptr<GVariant, ForgetVariant>;
+
+/// One object of the accessibility tree, as an assistive program sees it. Each question goes to the program
+/// by D-Bus and nothing is remembered. An object that has gone says "" to every question.
 class Accessible {
  public:
   /// The top object of the process, once it has announced itself.
@@ -30,10 +37,15 @@ class Accessible {
   bool grabFocus() const;
 
  private:
-  explicit Accessible(AtspiAccessible* object) : object_(object, g_object_unref) {}
+  Accessible(std::string program, std::string path);
+  explicit Accessible(const Variant& reference);
   void collect(std::vector<Accessible>& found) const;
+  Variant ask(const char* interface, const char* method, const char* answer) const;
+  Variant property(const char* name, const char* type) const;
 
-  std::shared_ptr<AtspiAccessible> object_;
+  /// The program's name on the bus, and the object's path there.
+  std::string program_;
+  std::string path_;
 };
 
 /// The tree below an object, one line each: for the report of a failing test.

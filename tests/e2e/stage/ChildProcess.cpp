@@ -77,11 +77,15 @@ int statusFrom(int waited) {
 
 ChildProcess::ChildProcess(const Arguments& command, const Environment& environment,
                            const std::string& output) {
+  ::prctl(PR_SET_CHILD_SUBREAPER, 1); // what it leaves behind is ours to wait for
   id_ = ::fork();
   if (id_ < 0)
     throw std::runtime_error("cannot start " + command.front());
-  if (id_ > 0)
+  if (id_ > 0) {
+    ::setpgid(id_, id_);
     return;
+  }
+  ::setpgid(0, 0);
   ::prctl(PR_SET_PDEATHSIG, SIGTERM);
   apply(environment);
   if (!output.empty())
@@ -92,10 +96,18 @@ ChildProcess::ChildProcess(const Arguments& command, const Environment& environm
 
 ChildProcess::~ChildProcess() {
   signal(SIGTERM);
-  if (!waitForEnd()) {
-    signal(SIGKILL);
-    ::waitpid(id_, nullptr, 0);
-  }
+  if (eventually([this] { return status() && !hasOffspring(WNOHANG); }))
+    return;
+  ::kill(-id_, SIGKILL);
+  hasOffspring(0);
+}
+
+bool ChildProcess::hasOffspring(int options) const {
+  pid_t ended;
+  do
+    ended = ::waitpid(-id_, nullptr, options);
+  while (ended > 0);
+  return ended == 0;
 }
 
 std::optional<int> ChildProcess::status() {

@@ -12,7 +12,8 @@ using Arguments = std::vector<std::string>;
 /// Variables for a child on top of ours; an absent value takes the variable away.
 using Environment = std::map<std::string, std::optional<std::string>>;
 
-/// A program that was started for a test and ends with it at the latest, whichever way the test ends.
+/// A program that was started for a test and ends, with all that it has started, before the next test at the
+/// latest.
 class ChildProcess {
  public:
   /// What the program prints goes to the file `output`, if there is one. Throws std::runtime_error when the
@@ -30,6 +31,9 @@ class ChildProcess {
   void signal(int number) const;
 
  private:
+  /// Whether anything runs of what it started and left behind; what has ended is forgotten.
+  bool hasOffspring(int options) const;
+
   pid_t id_ = -1;
   std::optional<int> status_;
 };

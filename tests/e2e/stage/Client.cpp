@@ -68,7 +68,8 @@ void Client::lookAround() const {
     if (object.role() == ATSPI_ROLE_PUSH_BUTTON)
       buttons_.push_back(object);
     if (name == "WebKitWebView")
-      pageArea_ = object.parent()->parent();
+      if (const auto view = object.parent())
+        pageArea_ = view->parent();
   }
 }
 

@@ -1,14 +1,11 @@
 #include "e2e/stage/Stage.h"
 
-#include "support/eventually.h"
+#include "e2e/stage/ChildProcess.h"
 
 #include <cstdlib>
 #include <fstream>
-#include <stdexcept>
 
 namespace quorvel::e2e {
-
-using tests::eventually;
 
 namespace {
 
@@ -27,45 +24,28 @@ std::vector<std::string> linesOf(const fs::path& file) {
   return lines;
 }
 
-/// Starts a program whose first words on descriptor 3 say where it can be reached.
-std::pair<std::unique_ptr<ChildProcess>, std::string> startServer(const Arguments& command,
-                                                                  const fs::path& output) {
-  Arguments quietly = {"sh", "-c", "exec \"$0\" \"$@\" 3>&1 >/dev/null 2>&1"};
-  quietly.insert(quietly.end(), command.begin(), command.end());
-  auto server = std::make_unique<ChildProcess>(quietly, Environment{}, output);
-  if (!eventually([&] { return !linesOf(output).empty(); }))
-    throw std::runtime_error(command.front() + " did not start");
-  return {std::move(server), linesOf(output).front()};
-}
-
 constexpr auto reportWhenShown = "const report = text => fetch('/report?' + text);"
                                  "addEventListener('pageshow', () => report('shown=' + location.pathname));";
 
 } // namespace
 
-bool Stage::isSet() {
-  return std::getenv(variable);
-}
-
-fs::path Stage::makeFolder() {
-  std::string name = (fs::temp_directory_path() / "quorvel-stage-XXXXXX").string();
-  if (!::mkdtemp(name.data()))
-    throw std::runtime_error("cannot make a folder for the test's files");
-  for (const auto* folder : {"pages", "tmp"})
-    fs::create_directory(fs::path(name) / folder);
-  return name;
-}
-
 Stage::Stage() : folder_(std::getenv(variable)), requests_(folder_ / "requests.log") {
+  clear();
   for (const auto* page : {"agent.html", "pricing.html", "support.html"})
     servePage(page, page);
   prepareAccount();
   registerHandler();
-  startDisplay();
-  startBus();
+  outputOf({"xdotool", "mousemove", "900", "600"});
 }
 
-Stage::~Stage() = default;
+// The service goes on writing its log, and the bus has its sockets: they stay where they are.
+void Stage::clear() const {
+  std::ofstream(folder_ / "requests.log") << "";
+  for (const auto* each : {"pages", "tmp", "handed", "client.log"})
+    fs::remove_all(folder_ / each);
+  for (const auto* folder : {"pages", "tmp"})
+    fs::create_directory(folder_ / folder);
+}
 
 void Stage::prepareAccount() {
   for (const auto& [name, folder] : {std::pair{"HOME", "home"},
@@ -79,6 +59,7 @@ void Stage::prepareAccount() {
     fs::permissions(folder_ / folder, fs::perms::owner_all);
     ::setenv(name, (folder_ / folder).c_str(), 1);
   }
+  ::setenv("TMPDIR", (folder_ / "tmp").c_str(), 1);
   for (const auto& name : {"WAYLAND_DISPLAY", "GDK_DEBUG", "GSK_RENDERER", "AT_SPI_BUS_ADDRESS", "GTK_A11Y"})
     ::unsetenv(name);
   ::setenv("LC_ALL", "C.UTF-8", 1);
@@ -94,23 +75,6 @@ void Stage::registerHandler() const {
                                     "x-scheme-handler/tel=handler.desktop\n"
                                     "x-scheme-handler/http=handler.desktop\n"
                                     "x-scheme-handler/https=handler.desktop\n");
-}
-
-// Without -noreset the server starts afresh when its last client leaves, and drops whoever is just arriving.
-void Stage::startDisplay() {
-  auto [server, number] =
-      startServer({"Xvfb", "-displayfd", "3", "-screen", "0", "1800x1200x24", "-nolisten", "tcp", "-noreset"},
-                  folder_ / "display");
-  display_ = std::move(server);
-  ::setenv("DISPLAY", (":" + number).c_str(), 1);
-}
-
-void Stage::startBus() {
-  auto [server, address] = startServer({"dbus-daemon", "--session", "--nofork", "--print-address=3",
-                                        "--address=unix:dir=" + (folder_ / "runtime").string()},
-                                       folder_ / "bus");
-  bus_ = std::move(server);
-  ::setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
 }
 
 void Stage::servePage(const std::string& name, const std::string& html) const {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "e2e/stage/ChildProcess.h"
 #include "e2e/stage/ServiceLog.h"
 
 #include <filesystem>
@@ -9,19 +8,16 @@
 
 namespace quorvel::e2e {
 
-/// Everything around the program under test: an account with empty folders, a display, a session bus with
-/// accessibility, the system's handlers for links, and the service's log and pages. The pages of the six
-/// destinations are blank ones that report; `serveOwnPages` brings back those that the stand-in service has
-/// for people.
+/// Everything around the program under test, as if each test were the first: an account with empty folders,
+/// the pointer in the middle of the screen, the system's handlers for links, and the service's log and pages.
+/// The pages of the six destinations are blank ones that report; `serveOwnPages` brings back those that the
+/// stand-in service has for people.
 class Stage {
  public:
+  /// Names the folder of the stage, for a process that already runs in the private network.
   static constexpr auto variable = "QUORVEL_STAGE";
-  /// Whether this process already runs in the private network.
-  static bool isSet();
-  static std::filesystem::path makeFolder();
 
   Stage();
-  ~Stage();
 
   const std::filesystem::path& folder() const { return folder_; }
   std::filesystem::path config() const { return folder_ / "config"; }
@@ -49,15 +45,12 @@ class Stage {
   std::string fingerprint(const std::string& part) const;
 
  private:
+  void clear() const;
   void prepareAccount();
   void registerHandler() const;
-  void startDisplay();
-  void startBus();
 
   std::filesystem::path folder_;
   ServiceLog requests_;
-  std::unique_ptr<ChildProcess> display_;
-  std::unique_ptr<ChildProcess> bus_;
 };
 
 } // namespace quorvel::e2e

@@ -1,5 +1,8 @@
 #include "e2e/stage/ChildProcess.h"
+#include "e2e/stage/SessionBus.h"
 #include "e2e/stage/Stage.h"
+#include "support/DisplayLease.h"
+#include "support/TemporaryFolder.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -20,7 +23,9 @@ std::set<fs::path> rootFolder() {
 /// written but what is the test's own: so this program starts itself again in there.
 int runInPrivateNetwork(const Arguments& ourselves) {
   const auto before = rootFolder();
-  const auto folder = Stage::makeFolder();
+  const quorvel::tests::DisplayLease display;
+  const quorvel::tests::TemporaryFolder temporary;
+  const auto folder = temporary.path;
   fs::create_directories(QUORVEL_FAILURES);
   Arguments command = {QUORVEL_SOURCE_DIR "/demo/private-network",
                        "--service",
@@ -31,7 +36,6 @@ int runInPrivateNetwork(const Arguments& ourselves) {
                        QUORVEL_SOURCE_DIR "/demo/pages",
                        "--log",
                        folder / "requests.log",
-                       "--own-displays",
                        "--ordinary-user",
                        "--writable",
                        folder,
@@ -39,10 +43,11 @@ int runInPrivateNetwork(const Arguments& ourselves) {
                        QUORVEL_FAILURES,
                        "--"};
   command.insert(command.end(), ourselves.begin(), ourselves.end());
-  ChildProcess inside(command, {{Stage::variable, folder.string()}, {"TMPDIR", folder / "tmp"}});
+  for (const auto* each : {"pages", "network"})
+    fs::create_directory(folder / each);
+  ChildProcess inside(command, {{Stage::variable, folder}, {"TMPDIR", folder / "network"}});
   while (!inside.waitForEnd())
     continue;
-  fs::remove_all(folder);
   if (rootFolder() != before) {
     std::cerr << "The tests have changed what is in the root folder.\n";
     return EXIT_FAILURE;
@@ -55,7 +60,11 @@ int runInPrivateNetwork(const Arguments& ourselves) {
 int main(int argc, char** argv) {
   const Arguments ourselves(argv, argv + argc);
   testing::InitGoogleTest(&argc, argv);
-  if (testing::GTEST_FLAG(list_tests) || Stage::isSet())
+  if (testing::GTEST_FLAG(list_tests))
     return RUN_ALL_TESTS();
+  if (const char* folder = std::getenv(Stage::variable)) {
+    const SessionBus bus(fs::path(folder) / "bus");
+    return RUN_ALL_TESTS();
+  }
   return runInPrivateNetwork(ourselves);
 }
