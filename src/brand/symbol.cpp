@@ -1,9 +1,17 @@
 #include "brand/symbol.h"
 
+#include "brand/cssClass.h"
+
+#include <algorithm>
+#include <array>
 #include <string>
 
 namespace quorvel {
 namespace {
+
+/// The symbols whose arrow means a way through lines of text, and not a place on the screen.
+constexpr std::array<std::string_view, 3> directional{"arrow.up.forward.app", "chevron.left",
+                                                      "chevron.right"};
 
 /// The weight of the first case of a look whose class the widget has.
 template <class Look>
@@ -36,6 +44,7 @@ Gtk::Image* symbol(std::string_view name, const TextLook& look) {
 }
 
 void setSymbol(Gtk::Image& image, std::string_view name) {
+  setCssClass(image, "directional", std::ranges::find(directional, name) != directional.end());
   image.set_from_icon_name(std::string(name) + weightEnding(weightOf(image)) + "-symbolic");
 }
 

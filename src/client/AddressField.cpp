@@ -63,9 +63,12 @@ void AddressField::Line::measure_vfunc(Gtk::Orientation orientation, int, int& m
 void AddressField::Line::size_allocate_vfunc(int width, int height, int) {
   const int leastRest = rest_->should_layout() ? widthRequest(*rest_).minimum : 0;
   const int origin = std::min(widthRequest(*origin_).natural, width - leastRest);
-  origin_->size_allocate(Gtk::Allocation(0, 0, origin, height), -1);
+  const int rest = rest_->should_layout() ? std::min(widthRequest(*rest_).natural, width - origin) : 0;
+  // The address reads from the left and stands where lines of text begin.
+  const int left = get_direction() == Gtk::TextDirection::RTL ? width - origin - rest : 0;
+  origin_->size_allocate(Gtk::Allocation(left, 0, origin, height), -1);
   if (rest_->should_layout())
-    rest_->size_allocate(Gtk::Allocation(origin, 0, width - origin, height), -1);
+    rest_->size_allocate(Gtk::Allocation(left + origin, 0, rest, height), -1);
 }
 
 AddressField::AddressField() : HStack(0), line_(*Gtk::make_managed<Line>()) {

@@ -54,11 +54,11 @@ void AdaptiveGrid::measure_vfunc(Gtk::Orientation orientation, int forSize, int&
 }
 
 void AdaptiveGrid::size_allocate_vfunc(int width, int, int) {
-  forEachRow(width, [](const auto& row, const auto& columns, int y, int height) {
+  forEachRow(width, [width](const auto& row, const auto& columns, int y, int height) {
     for (std::size_t i = 0; i < row.size(); ++i) {
       const auto [x, cellWidth] = columns[i];
       const int cellHeight = heightRequest(*row[i], cellWidth).natural;
-      row[i]->size_allocate(Gtk::Allocation(x, y + (height - cellHeight) / 2, cellWidth, cellHeight), -1);
+      allocateFromLeadingEdge(*row[i], {x, y + (height - cellHeight) / 2, cellWidth, cellHeight}, width);
     }
   });
 }

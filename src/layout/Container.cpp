@@ -45,6 +45,12 @@ void insertAfter(Gtk::Widget& parent, Gtk::Widget& child, Gtk::Widget* previous)
     child.insert_at_start(parent);
 }
 
+void allocateFromLeadingEdge(Gtk::Widget& child, Gtk::Allocation place, int parentWidth) {
+  if (child.get_parent()->get_direction() == Gtk::TextDirection::RTL)
+    place.set_x(parentWidth - place.get_x() - place.get_width());
+  child.size_allocate(place, -1);
+}
+
 Request widthRequest(const Gtk::Widget& widget) {
   Request request;
   int ignored;

@@ -30,6 +30,10 @@ class Container : public Gtk::Widget {
 /// Makes a managed widget the child of `parent` that follows `previous`, or the first where that is nothing.
 void insertAfter(Gtk::Widget& parent, Gtk::Widget& child, Gtk::Widget* previous);
 
+/// Gives a child its place in a parent that is `parentWidth` points wide. The place is counted from the edge
+/// at which lines of text begin, which is the right one on desktops that are read from there.
+void allocateFromLeadingEdge(Gtk::Widget& child, Gtk::Allocation place, int parentWidth);
+
 /// What a widget asks for in one direction, in points.
 struct Request {
   int minimum = 0, natural = 0;

@@ -88,7 +88,7 @@ void FirstThatFits::place(const Form& form, int available, int height) {
     const auto widths = rowWidths(form.members, form.spacing, available);
     int x = 0;
     for (std::size_t i = 0; i < form.members.size(); ++i) {
-      form.members[i]->size_allocate(Gtk::Allocation(x, 0, widths[i], height), -1);
+      allocateFromLeadingEdge(*form.members[i], {x, 0, widths[i], height}, available);
       x += widths[i] + form.spacing;
     }
     return;

@@ -234,15 +234,12 @@ void LazyGrid::measure_vfunc(Gtk::Orientation orientation, int forSize, int& min
 void LazyGrid::size_allocate_vfunc(int width, int, int) {
   followWidth(width);
   measureLines(heights_, width, perLine_);
-  const bool isMirrored = get_direction() == Gtk::TextDirection::RTL;
   forEachLine(perLine_, [&](const auto& cells, std::size_t first) {
     const int top = heights_.top(first / perLine_), height = lineHeight(cells, width, perLine_);
     for (std::size_t i = 0; i < cells.size(); ++i) {
       const auto [x, cellWidth] = columnAt((first + i) % perLine_, perLine_, width, form_.spacing);
       const int cellHeight = heightRequest(*cells[i], cellWidth).natural;
-      cells[i]->size_allocate(Gtk::Allocation(isMirrored ? width - x - cellWidth : x,
-                                              top + (height - cellHeight) / 2, cellWidth, cellHeight),
-                              -1);
+      allocateFromLeadingEdge(*cells[i], {x, top + (height - cellHeight) / 2, cellWidth, cellHeight}, width);
     }
   });
   if (wantedPlaces() != places_)

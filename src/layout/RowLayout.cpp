@@ -118,11 +118,9 @@ void RowLayout::measure_vfunc(const Gtk::Widget& row, Gtk::Orientation orientati
 void RowLayout::allocate_vfunc(const Gtk::Widget& row, int width, int height, int) {
   const auto members = membersOf(row);
   const auto given = widths(members, width);
-  const bool isMirrored = row.get_direction() == Gtk::TextDirection::RTL;
   int leading = 0;
   for (std::size_t i = 0; i < members.size(); ++i) {
-    const int x = isMirrored ? width - leading - given[i] : leading;
-    members[i]->size_allocate(Gtk::Allocation(x, 0, given[i], height), -1);
+    allocateFromLeadingEdge(*members[i], {leading, 0, given[i], height}, width);
     leading += given[i] + spacing_;
   }
 }

@@ -46,13 +46,13 @@ void ConsoleColumns::measure_vfunc(Gtk::Orientation orientation, int, int& minim
 }
 
 void ConsoleColumns::size_allocate_vfunc(int width, int height, int) {
-  const int left = atLeast(sidebarWidth, sidebar_);
-  const int right = hasRoomForInspector(width) ? atLeast(inspectorWidth, inspector_) : 0;
-  sidebar_.size_allocate(Gtk::Allocation(0, 0, left, height), -1);
-  detail_.size_allocate(Gtk::Allocation(left, 0, width - left - right, height), -1);
-  inspector_.set_child_visible(right > 0);
-  if (right > 0)
-    inspector_.size_allocate(Gtk::Allocation(width - right, 0, right, height), -1);
+  const int leading = atLeast(sidebarWidth, sidebar_);
+  const int trailing = hasRoomForInspector(width) ? atLeast(inspectorWidth, inspector_) : 0;
+  allocateFromLeadingEdge(sidebar_, {0, 0, leading, height}, width);
+  allocateFromLeadingEdge(detail_, {leading, 0, width - leading - trailing, height}, width);
+  inspector_.set_child_visible(trailing > 0);
+  if (trailing > 0)
+    allocateFromLeadingEdge(inspector_, {width - trailing, 0, trailing, height}, width);
 }
 
 } // namespace quorvel

@@ -1,5 +1,7 @@
 #include "client/AddressField.h"
 
+#include "layout/Container.h"
+#include "support/RightToLeft.h"
 #include "support/TestWindow.h"
 
 namespace quorvel {
@@ -58,10 +60,22 @@ TEST_F(AddressFieldTest, OfAHostWiderThanTheFieldTheEndIsSeen) {
 }
 
 TEST_F(AddressFieldTest, AddressesReadFromTheLeftInEveryLanguage) {
-  field.set_direction(Gtk::TextDirection::RTL);
+  const tests::RightToLeft desktop;
   show("https://one.example/1/2/3");
   EXPECT_LT(boundsIn(field, origin()).get_x(), boundsIn(field, rest()).get_x());
   EXPECT_EQ(rest().get_direction(), Gtk::TextDirection::LTR);
+}
+
+TEST_F(AddressFieldTest, WhereLinesBeginOnTheRightTheAddressStandsByTheLockThere) {
+  const tests::RightToLeft desktop;
+  show("https://one.example/1/2/3");
+  const auto lock = boundsIn(field, *tests::all<Gtk::Image>(field).front());
+  const auto end = boundsIn(field, rest());
+  EXPECT_EQ(lock.get_x() + lock.get_width(), 500 - 12);
+  EXPECT_EQ(end.get_x() + end.get_width(), lock.get_x() - 8);
+  EXPECT_EQ(end.get_width(), widthRequest(rest()).natural);
+  show("https://one.example" + longRest);
+  EXPECT_EQ(boundsIn(field, origin()).get_x(), 12);
 }
 
 TEST_F(AddressFieldTest, ToAssistiveTechnologyTheAddressIsOneLabel) {

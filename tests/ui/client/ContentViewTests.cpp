@@ -8,6 +8,7 @@
 #include "client/QuorvelWebView.h"
 #include "client/ServiceOrigin.h"
 #include "client/WarningBar.h"
+#include "support/RightToLeft.h"
 #include "support/TextChecks.h"
 #include "support/TextScale.h"
 #include "ui/client/ModelTest.h"
@@ -144,6 +145,60 @@ TEST_F(ContentViewTest, AWarningStandsAboveThePageAndIsNeverCut) {
   model->warning = "";
   tests::drawFrame(*view);
   EXPECT_FALSE(the<WarningBar>().get_mapped());
+}
+
+TEST_F(ContentViewTest, OnADesktopThatIsReadFromTheRightEverythingIsMirrored) {
+  const tests::RightToLeft desktop;
+  window->resize(1180, 760);
+  EXPECT_EQ(bounds(the<DesktopClientSidebar>()).get_x(), 1180 - 306);
+  EXPECT_EQ(bounds(the<QuorvelWebView>()).get_x(), 0);
+  EXPECT_GT(bounds(button("Back")).get_x(), bounds(button("Forward")).get_x());
+  const auto backwards = bounds(button("Back"));
+  EXPECT_EQ(backwards.get_x() + backwards.get_width(), 873 - 14);
+}
+
+/// How far below its upper edge a symbol begins, column by column: a pixel of it is nearer to its brightest
+/// one than to its ground.
+std::vector<int> outline(TestWindow& window, Gtk::Widget& symbol) {
+  const auto place = boundsIn(window, symbol);
+  const auto picture = window.picture();
+  const auto stride = static_cast<int>(picture.size()) / window.get_height();
+  const auto light = [&](int x, int y) {
+    return int{picture[static_cast<std::size_t>((place.get_y() + y) * stride + (place.get_x() + x) * 4)]};
+  };
+  int darkest = 255, brightest = 0;
+  for (int i = 0; i < place.get_width() * place.get_height(); ++i) {
+    const int pixel = light(i % place.get_width(), i / place.get_width());
+    darkest = std::min(darkest, pixel);
+    brightest = std::max(brightest, pixel);
+  }
+  std::vector<int> tops;
+  for (int x = 0; x < place.get_width(); ++x) {
+    int y = 0;
+    while (y < place.get_height() && 2 * light(x, y) < darkest + brightest)
+      ++y;
+    tops.push_back(y);
+  }
+  return tops;
+}
+
+TEST_F(ContentViewTest, TheArrowsOfBackAndForwardPointWhereTheyLead) {
+  const auto outlineOf = [&](const char* name) {
+    return outline(*window, *tests::all<Gtk::Image>(button(name)).front());
+  };
+  const std::vector leftToRight{outlineOf("Back"), outlineOf("Forward")};
+  const tests::RightToLeft desktop;
+  tests::drawFrame(*view);
+  const std::vector rightToLeft{outlineOf("Back"), outlineOf("Forward")};
+  for (std::size_t arrow = 0; arrow < 2; ++arrow) {
+    const auto &before = leftToRight[arrow], &after = rightToLeft[arrow];
+    int unlikeItsMirrorImage = 0;
+    for (std::size_t i = 0, j = before.size() - 1; i < before.size(); ++i, --j) {
+      EXPECT_NEAR(after[j], before[i], 1) << "column " << i;
+      unlikeItsMirrorImage += std::abs(before[i] - before[j]);
+    }
+    EXPECT_GT(unlikeItsMirrorImage, 10);
+  }
 }
 
 TEST_F(ContentViewTest, NothingFitsIntoLessThanTheLeastSize) {

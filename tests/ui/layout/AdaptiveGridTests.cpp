@@ -1,4 +1,5 @@
 #include "layout/AdaptiveGrid.h"
+#include "support/RightToLeft.h"
 #include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
@@ -37,6 +38,18 @@ TEST(AdaptiveGrid, SharesTheWidthEquallyAndLeavesSpareColumnsEmpty) {
   TestWindow window(*grid, 340);
   EXPECT_EQ(boundsIn(*grid, *first).get_width(), 106) << "three columns fit, two are filled";
   EXPECT_EQ(boundsIn(*grid, *second).get_x(), 116);
+}
+
+TEST(AdaptiveGrid, BeginsWhereLinesOfTextDo) {
+  const RightToLeft desktop;
+  auto* grid = Gtk::make_managed<AdaptiveGrid>(100, 10);
+  auto* first = cell(*grid);
+  auto* second = cell(*grid);
+  auto* third = cell(*grid);
+  TestWindow stage(*grid, 210);
+  EXPECT_EQ(boundsIn(*grid, *first).get_x(), 110);
+  EXPECT_EQ(boundsIn(*grid, *second).get_x(), 0);
+  EXPECT_EQ(boundsIn(*grid, *third).get_x(), 110);
 }
 
 TEST(AdaptiveGrid, ItsLastColumnEndsWhereTheGridDoes) {

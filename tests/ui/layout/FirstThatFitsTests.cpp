@@ -1,5 +1,6 @@
 #include "layout/FirstThatFits.h"
 #include "layout/stacks.h"
+#include "support/RightToLeft.h"
 #include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
@@ -51,6 +52,18 @@ TEST(FirstThatFits, ExpandingMembersShareWhatIsLeft) {
   TestWindow window(*area, 320);
   EXPECT_EQ(left->get_width(), 150);
   EXPECT_EQ(boundsIn(*area, *right).get_x(), 170);
+}
+
+TEST(FirstThatFits, ARowBeginsWhereLinesOfTextDo) {
+  const RightToLeft desktop;
+  auto* first = block(100, 10);
+  auto* second = stretched(block(50, 10));
+  auto* area = Gtk::make_managed<FirstThatFits>(
+      std::vector<FirstThatFits::Form>{{Orientation::HORIZONTAL, 20, {first, second}}});
+  TestWindow stage(*area, 320);
+  EXPECT_EQ(boundsIn(*area, *first).get_x(), 220);
+  EXPECT_EQ(boundsIn(*area, *second).get_x(), 0);
+  EXPECT_EQ(second->get_width(), 200);
 }
 
 TEST(FirstThatFits, AFormChangeKeepsTheFocus) {

@@ -1,5 +1,6 @@
 #include "layout/LazyRows.h"
 #include "layout/stacks.h"
+#include "support/RightToLeft.h"
 #include "support/TestWindow.h"
 
 #include <gmock/gmock.h>
@@ -304,12 +305,10 @@ TEST_F(LazyRowsTest, InAGridTheLineWithTheFocusStaysHoweverFarItIsScrolledAway) 
 }
 
 TEST_F(LazyRowsTest, InAMirroredWindowTheFirstColumnIsOnTheRight) {
-  scroller.set_direction(Gtk::TextDirection::RTL);
-  Gtk::Widget::set_default_direction(Gtk::TextDirection::RTL);
+  const RightToLeft desktop;
   show(records(5), threeColumns);
   EXPECT_EQ(place("0").get_x() + place("0").get_width(), 500 - 28);
   EXPECT_EQ(place("2").get_x(), 28);
-  Gtk::Widget::set_default_direction(Gtk::TextDirection::LTR);
 }
 
 TEST(LazyRows, OutsideAViewportAllRowsExist) {

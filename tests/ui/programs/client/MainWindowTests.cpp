@@ -4,6 +4,8 @@
 #include "programs/client/CommandMenu.h"
 #include "programs/client/PrimaryMenu.h"
 #include "programs/client/habits.h"
+#include "support/RealInput.h"
+#include "support/RightToLeft.h"
 #include "ui/client/ModelTest.h"
 
 namespace quorvel {
@@ -151,6 +153,24 @@ TEST_F(MainWindowTest, TheContentKeepsItsLeastSizeBelowTheHeaderBar) {
   EXPECT_GE(content->get_width(), 1180);
   EXPECT_GE(content->get_height(), 760);
   EXPECT_LE(window->get_titlebar()->get_height(), 40) << "slim";
+}
+
+class MirroredWindowTest : public MainWindowTest {
+  const tests::RightToLeft desktop_;
+};
+
+TEST_F(MirroredWindowTest, TheKeysForBackAndForwardAreThoseThatTheArrowsPointTo) {
+  show("/pricing.html");
+  tests::clickOn(model->webView().widget());
+  tests::strikeKey("alt+Right");
+  waitForAddress("/agent.html");
+  tests::strikeKey("alt+Left");
+  waitForAddress("/pricing.html");
+  tests::clickOn(*tests::buttonNamed(*window, "Reload"));
+  ASSERT_TRUE(tests::eventually([&] { return server.count("/pricing.html") == 2; }));
+  waitForRest();
+  tests::strikeKey("alt+Right");
+  waitForAddress("/agent.html");
 }
 
 } // namespace

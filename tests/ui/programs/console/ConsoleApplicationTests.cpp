@@ -7,6 +7,7 @@
 #include "console/SidebarView.h"
 #include "layout/AdaptiveGrid.h"
 #include "layout/LazyGrid.h"
+#include "support/RightToLeft.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 #include "support/TextScale.h"
@@ -83,6 +84,19 @@ TEST_F(ColumnsTest, From1500TheInspectorIs320Wide) {
   EXPECT_EQ(bounds<InspectorPanel>().get_x(), 1500 - 320);
   EXPECT_EQ(bounds<InspectorPanel>().get_width(), 320);
   EXPECT_EQ(bounds<DetailView>().get_width(), 1500 - 272 - 320);
+}
+
+TEST_F(ColumnsTest, OnADesktopThatIsReadFromTheRightTheSidebarIsThere) {
+  const RightToLeft desktop;
+  window_.resize(1600, 760);
+  EXPECT_EQ(bounds<SidebarView>().get_x(), 1600 - 272);
+  EXPECT_EQ(bounds<DetailView>().get_x(), 320);
+  EXPECT_EQ(bounds<InspectorPanel>().get_x(), 0);
+  store_.selectedSection = WorkspaceSection::pricing;
+  drawFrame(columns_);
+  const auto start = window_.pixel(1600 - 272 - 2, 2), end = window_.pixel(330, 755);
+  EXPECT_THAT(end, IsColor(QuorvelBrand::windowGradient()[2])) << "the gradient ends at the far corner";
+  EXPECT_THAT(start, ::testing::Not(IsColor(end)));
 }
 
 TEST_F(ColumnsTest, WhatAWiderWindowHasMoreGoesToTheCentre) {
