@@ -14,9 +14,11 @@ GraphicsEnvironment::GraphicsEnvironment(std::string root) : root_(std::move(roo
 std::vector<GraphicsEnvironment::Variable> GraphicsEnvironment::variables() const {
   std::vector<Variable> result;
   // Without graphics hardware GL is emulated, which costs a third of the time to the first page and 40 % of
-  // the memory.
+  // the memory. Toolkit and engine are told so too, or they would try it and complain.
   if (!hasRenderNode())
-    result.push_back({"GDK_DEBUG", "gl-disable"});
+    result.insert(
+        result.end(),
+        {{"GDK_DEBUG", "gl-disable"}, {"GSK_RENDERER", "cairo"}, {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"}});
   // On many desktops the accelerated renderer shows an empty page with this driver.
   if (hasNvidiaDriver())
     result.push_back({"WEBKIT_DISABLE_DMABUF_RENDERER", "1"});

@@ -11,17 +11,20 @@ namespace {
 
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using Variable = GraphicsEnvironment::Variable;
 
-const Variable glOff{"GDK_DEBUG", "gl-disable"};
+const std::vector<Variable> withoutGl{
+    {"GDK_DEBUG", "gl-disable"}, {"GSK_RENDERER", "cairo"}, {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"}};
 const Variable plainRenderer{"WEBKIT_DISABLE_DMABUF_RENDERER", "1"};
 
 /// A machine's `dev`, `proc` and `sys` in a folder of the test's.
 struct GraphicsEnvironmentTest : ::testing::Test {
   GraphicsEnvironmentTest() {
-    g_unsetenv("GDK_DEBUG");
-    g_unsetenv("WEBKIT_DISABLE_DMABUF_RENDERER");
+    for (const auto* name :
+         {"GDK_DEBUG", "GSK_RENDERER", "WEBKIT_DISABLE_COMPOSITING_MODE", "WEBKIT_DISABLE_DMABUF_RENDERER"})
+      g_unsetenv(name);
   }
 
   void addFile(const std::string& path) {
@@ -35,12 +38,12 @@ struct GraphicsEnvironmentTest : ::testing::Test {
 };
 
 TEST_F(GraphicsEnvironmentTest, AMachineWithoutARenderNodeHasGlSwitchedOff) {
-  EXPECT_THAT(variables(), ElementsAre(glOff));
+  EXPECT_THAT(variables(), ElementsAreArray(withoutGl));
 }
 
 TEST_F(GraphicsEnvironmentTest, AScreenThatOnlyShowsPicturesIsNoRenderNode) {
   addFile("dev/dri/card0");
-  EXPECT_THAT(variables(), ElementsAre(glOff));
+  EXPECT_THAT(variables(), ElementsAreArray(withoutGl));
 }
 
 TEST_F(GraphicsEnvironmentTest, AMachineWithARenderNodeKeepsGl) {
@@ -64,15 +67,18 @@ TEST_F(GraphicsEnvironmentTest, WhatTheMachineCallsForIsSet) {
   addFile("proc/driver/nvidia/version");
   GraphicsEnvironment(root).apply();
   EXPECT_STREQ(g_getenv("GDK_DEBUG"), "gl-disable");
+  EXPECT_STREQ(g_getenv("GSK_RENDERER"), "cairo");
   EXPECT_STREQ(g_getenv("WEBKIT_DISABLE_DMABUF_RENDERER"), "1");
 }
 
 TEST_F(GraphicsEnvironmentTest, WhatTheUserHasSetIsLeftAlone) {
   addFile("proc/driver/nvidia/version");
   g_setenv("GDK_DEBUG", "frames", true);
+  g_setenv("GSK_RENDERER", "gl", true);
   g_setenv("WEBKIT_DISABLE_DMABUF_RENDERER", "", true);
   GraphicsEnvironment(root).apply();
   EXPECT_STREQ(g_getenv("GDK_DEBUG"), "frames");
+  EXPECT_STREQ(g_getenv("GSK_RENDERER"), "gl");
   EXPECT_STREQ(g_getenv("WEBKIT_DISABLE_DMABUF_RENDERER"), "") << "an empty value is the user's, too";
 }
 
