@@ -2,23 +2,24 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <glib.h>
+#include <gtk/gtk.h>
 #include <utility>
 
 namespace quorvel {
 
 namespace fs = std::filesystem;
 
-GraphicsEnvironment::GraphicsEnvironment(std::string root) : root_(std::move(root)) {}
+unsigned GraphicsEnvironment::runningToolkit() {
+  return gtk_get_minor_version();
+}
+
+GraphicsEnvironment::GraphicsEnvironment(std::string root, unsigned toolkit)
+    : root_(std::move(root)), toolkit_(toolkit) {}
 
 std::vector<GraphicsEnvironment::Variable> GraphicsEnvironment::variables() const {
   std::vector<Variable> result;
-  // Without graphics hardware GL is emulated, which costs a third of the time to the first page and 40 % of
-  // the memory. Toolkit and engine are told so too, or they would try it and complain.
   if (!hasRenderNode())
-    result.insert(
-        result.end(),
-        {{"GDK_DEBUG", "gl-disable"}, {"GSK_RENDERER", "cairo"}, {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"}});
+    result = withoutGraphicsHardware();
   // On many desktops the accelerated renderer shows an empty page with this driver.
   if (hasNvidiaDriver())
     result.push_back({"WEBKIT_DISABLE_DMABUF_RENDERER", "1"});
@@ -28,6 +29,15 @@ std::vector<GraphicsEnvironment::Variable> GraphicsEnvironment::variables() cons
 void GraphicsEnvironment::apply() const {
   for (const auto& [name, value] : variables())
     g_setenv(name.c_str(), value.c_str(), false);
+}
+
+// Without graphics hardware GL and Vulkan are emulated, which costs a third of the time to the first page and
+// 40 % of the memory. Toolkit and engine are told so too, or they would try it and complain. GTK 4.16 gave
+// this a variable of its own, and complains of the older words.
+std::vector<GraphicsEnvironment::Variable> GraphicsEnvironment::withoutGraphicsHardware() const {
+  const Variable off = toolkit_ >= 16 ? Variable{"GDK_DISABLE", "gl:vulkan"}
+                                      : Variable{"GDK_DEBUG", "gl-disable:vulkan-disable"};
+  return {off, {"GSK_RENDERER", "cairo"}, {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"}};
 }
 
 bool GraphicsEnvironment::hasRenderNode() const {

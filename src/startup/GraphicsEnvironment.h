@@ -13,8 +13,11 @@ class GraphicsEnvironment {
     bool operator==(const Variable&) const = default;
   };
 
+  /// The minor version of the GTK 4 that the program runs on, which may be newer than that it was built on.
+  static unsigned runningToolkit();
+
   /// `root` is the folder in which the machine's `dev`, `proc` and `sys` are looked for.
-  explicit GraphicsEnvironment(std::string root = "/");
+  explicit GraphicsEnvironment(std::string root = "/", unsigned toolkit = runningToolkit());
 
   /// The variables that this machine calls for.
   std::vector<Variable> variables() const;
@@ -23,10 +26,12 @@ class GraphicsEnvironment {
   void apply() const;
 
  private:
+  std::vector<Variable> withoutGraphicsHardware() const;
   bool hasRenderNode() const;
   bool hasNvidiaDriver() const;
 
   std::string root_;
+  unsigned toolkit_;
 };
 
 } // namespace quorvel

@@ -1,5 +1,6 @@
 #include "brand/StyleSheet.h"
 #include "brand/heldKeys.h"
+#include "startup/GraphicsEnvironment.h"
 #include "startup/messageBuses.h"
 #include "support/DisplayLease.h"
 #include "support/TemporaryFolder.h"
@@ -41,7 +42,7 @@ int main(int argc, char** argv) {
   testing::UnitTest::GetInstance()->listeners().Append(new FreshAccount);
   g_setenv("LC_ALL", "C.UTF-8", true);
   g_setenv("GSK_RENDERER", "cairo", true);
-  g_setenv("GDK_DEBUG", "gl-disable", true);
+  quorvel::GraphicsEnvironment("/nowhere").apply();
   g_setenv("GSETTINGS_BACKEND", "memory", true);
 
   quorvel::keepUsableBuses();

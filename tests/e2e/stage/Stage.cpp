@@ -60,7 +60,8 @@ void Stage::prepareAccount() {
     ::setenv(name, (folder_ / folder).c_str(), 1);
   }
   ::setenv("TMPDIR", (folder_ / "tmp").c_str(), 1);
-  for (const auto& name : {"WAYLAND_DISPLAY", "GDK_DEBUG", "GSK_RENDERER", "AT_SPI_BUS_ADDRESS", "GTK_A11Y"})
+  for (const auto& name :
+       {"WAYLAND_DISPLAY", "GDK_DEBUG", "GDK_DISABLE", "GSK_RENDERER", "AT_SPI_BUS_ADDRESS", "GTK_A11Y"})
     ::unsetenv(name);
   ::setenv("LC_ALL", "C.UTF-8", 1);
 }

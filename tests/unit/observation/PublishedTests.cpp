@@ -85,7 +85,9 @@ TEST(Observe, AChangeAfterARefreshIsShownByTheNext) {
 
 TEST(Observe, TheTieEndsWithTheView) {
   Model model;
-  { View view(model); }
+  {
+    View view(model);
+  }
   model.count = 2;
   EXPECT_TRUE(model.objectWillChange().empty());
 }

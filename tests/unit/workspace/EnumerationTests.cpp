@@ -113,9 +113,7 @@ TEST(AgentLoad, RawValuesAreTheTextsOnScreenInOrder) {
 }
 
 template <class Enumeration>
-concept HasTone = requires(Enumeration value) {
-  tone(value);
-};
+concept HasTone = requires(Enumeration value) { tone(value); };
 
 TEST(AgentLoad, HasNoToneOfItsOwn) {
   EXPECT_FALSE(HasTone<AgentLoad>);
