@@ -14,8 +14,7 @@ namespace {
 std::string field(std::string text) {
   if (text.empty())
     return "-";
-  std::replace_if(
-      text.begin(), text.end(), [](char c) { return g_ascii_iscntrl(c); }, '?');
+  std::replace_if(text.begin(), text.end(), [](char c) { return g_ascii_iscntrl(c); }, '?');
   return text;
 }
 

@@ -32,7 +32,7 @@ class Descriptor {
 };
 
 std::optional<std::string> contents(const Descriptor& file) {
-  struct stat status {};
+  struct stat status{};
   if (::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
     return std::nullopt;
   std::string bytes;

@@ -37,8 +37,8 @@ template <class Enumeration, class Value>
 class PerCase {
  public:
   template <class... Values>
-  requires(sizeof...(Values) == caseCount<Enumeration>()) constexpr PerCase(Values... values)
-      : values_{std::move(values)...} {}
+    requires(sizeof...(Values) == caseCount<Enumeration>())
+  constexpr PerCase(Values... values) : values_{std::move(values)...} {}
 
   constexpr const Value& operator[](Enumeration value) const {
     return values_[static_cast<std::size_t>(value)];
