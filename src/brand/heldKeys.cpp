@@ -37,7 +37,7 @@ gboolean onPress(GtkEventControllerKey* keys, guint key, guint code, GdkModifier
   const bool isRepetition =
       heldKey.code == code && now - std::exchange(heldKey.lastPress, now) < longestPause;
   if (isRepetition)
-    return !(focus && focus == heldKey.from && takesText(focus));
+    return !focus || focus != heldKey.from || !takesText(focus);
   heldKey.code = code;
   heldKey.lastPress = now;
   g_set_weak_pointer(&heldKey.from, focus);

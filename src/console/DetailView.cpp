@@ -12,6 +12,7 @@
 #include "layout/focusAsWhole.h"
 #include "observation/observe.h"
 
+#include <gtkmm/adjustment.h>
 #include <gtkmm/root.h>
 
 namespace quorvel {

@@ -1,7 +1,6 @@
 #include "engine/swipes.h"
 
 #include <cmath>
-#include <memory>
 #include <utility>
 
 namespace quorvel {

@@ -2,7 +2,6 @@
 
 #include <glib.h>
 #include <iostream>
-#include <string>
 #include <string_view>
 
 namespace quorvel {

@@ -40,16 +40,16 @@ const std::vector<Site> sites = {
 class CertificateTorture : public ClientTest {
  protected:
   CertificateTorture() {
-    fs::create_directories(folder);
-    outputOf({QUORVEL_MAKE_CERTIFICATES, std::getenv("QUORVEL_NETWORK"), folder,
+    fs::create_directories(folder_);
+    outputOf({QUORVEL_MAKE_CERTIFICATES, std::getenv("QUORVEL_NETWORK"), folder_,
               origin.substr(std::string("https://").size())});
     for (const auto& site : sites)
       open(site);
   }
-  ~CertificateTorture() override { fs::remove_all(folder); }
+  ~CertificateTorture() override { fs::remove_all(folder_); }
 
   static int portOf(const Site& site) { return 7001 + static_cast<int>(&site - sites.data()); }
-  fs::path logOf(const Site& site) const { return folder / (site.name + ".log"); }
+  fs::path logOf(const Site& site) const { return folder_ / (site.name + ".log"); }
   /// Whether the site was asked for anything.
   bool isReached(const Site& site) const { return !ServiceLog(logOf(site)).requests().empty(); }
 
@@ -66,16 +66,16 @@ class CertificateTorture : public ClientTest {
 
  private:
   void open(const Site& site) {
-    const auto log = folder / (site.name + ".said");
+    const auto log = folder_ / (site.name + ".said");
     services_.emplace_back(
         Arguments{QUORVEL_DEMO_SERVICE, "--port", std::to_string(portOf(site)), "--pages", QUORVEL_OWN_PAGES,
-                  "--log", logOf(site), "--certificate", folder / (site.certificate + ".pem"), "--key",
-                  folder / (site.certificate + ".key")},
+                  "--log", logOf(site), "--certificate", folder_ / (site.certificate + ".pem"), "--key",
+                  folder_ / (site.certificate + ".key")},
         site.tls.empty() ? Environment{} : Environment{{"G_TLS_GNUTLS_PRIORITY", site.tls}}, log);
     EXPECT_TRUE(eventually([&] { return fs::exists(log) && fs::file_size(log) > 0; })) << site.name;
   }
 
-  const fs::path folder = stage.folder() / "tmp" / "certificates";
+  const fs::path folder_ = stage.folder() / "tmp" / "certificates";
   std::list<ChildProcess> services_;
 };
 

@@ -1,5 +1,4 @@
 #include "brand/QuorvelBrand.h"
-#include "brand/buttons.h"
 #include "brand/surfaces.h"
 #include "brand/tone.h"
 #include "layout/stacks.h"

@@ -85,7 +85,7 @@ class Drawing {
 
 /// The sum of `value(x, y)` over the drawing, in square units of its grid.
 template <class Value>
-double area(Value&& value) {
+double area(const Value& value) {
   double sum = 0;
   for (int y = 0; y < Drawing::side; ++y)
     for (int x = 0; x < Drawing::side; ++x)

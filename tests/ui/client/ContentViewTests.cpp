@@ -297,7 +297,7 @@ TEST_F(ContentViewTest, ASpinnerFloatsAtTheTopCentreOfThePageWhileItLoadsAndOnly
   const auto page = bounds(the<QuorvelWebView>());
   const auto place = bounds(spinner);
   EXPECT_EQ(place.get_y(), page.get_y() + 10);
-  EXPECT_NEAR(place.get_x() + place.get_width() / 2, page.get_x() + page.get_width() / 2, 1);
+  EXPECT_NEAR(place.get_x() + place.get_width() / 2.0, page.get_x() + page.get_width() / 2.0, 1);
 
   webkit_web_view_stop_loading(webView());
   EXPECT_TRUE(tests::eventually([&] { return !spinner.get_mapped(); }));

@@ -114,7 +114,7 @@ TEST_F(PricingTest, WhicheverPlanIsFeaturedItsButtonReadsChooseStarter) {
 TEST_F(PricingTest, TheFeaturedPlansButtonIsFilledAndTheOthersAreBordered) {
   const auto buttons = shownButtons();
   EXPECT_TRUE(buttons[1]->has_css_class("button-prominent"));
-  for (const std::size_t i : {0, 2, 3})
+  for (const std::size_t i : {0U, 2U, 3U})
     EXPECT_TRUE(buttons[i]->has_css_class("button-bordered")) << i;
 }
 
@@ -151,8 +151,8 @@ TEST_F(PricingTest, TheThreeComparisonTilesShareTheRowEquallyAndStandAtItsTop) {
   ASSERT_EQ(tiles.size(), 3U);
   for (int i = 0; i < 3; ++i) {
     const auto bounds = boundsIn(comparison(), *tiles[static_cast<std::size_t>(i)]);
-    EXPECT_NEAR(bounds.get_width(), (852 - 28) / 3, 1);
-    EXPECT_NEAR(bounds.get_x(), i * (852 + 14) / 3, 1);
+    EXPECT_NEAR(bounds.get_width(), (852 - 28) / 3.0, 1);
+    EXPECT_NEAR(bounds.get_x(), i * (852 + 14) / 3.0, 1);
     EXPECT_EQ(bounds.get_y(), 0);
   }
 }
