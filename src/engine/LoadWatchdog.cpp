@@ -3,9 +3,18 @@
 #include <utility>
 
 namespace quorvel {
+namespace {
 
-LoadWatchdog::LoadWatchdog(WebKitWebView* view, TimerFunction startTimer)
-    : view_(view), timer_(std::move(startTimer), [this] { onStall(); }) {
+std::string addressOf(WebKitWebView* view) {
+  const char* address = webkit_web_view_get_uri(view);
+  return address ? address : "";
+}
+
+} // namespace
+
+LoadWatchdog::LoadWatchdog(WebKitWebView* view, TimerFunction startTimer, std::function<void()> onChange)
+    : view_(view), startTimer_(startTimer), onChange_(std::move(onChange)),
+      timer_(std::move(startTimer), [this] { onStall(); }) {
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, LoadWatchdog* self) { self->noteEvent(event); };
   g_signal_connect(view_, "load-changed", G_CALLBACK(onEvent), this);
@@ -16,45 +25,111 @@ LoadWatchdog::LoadWatchdog(WebKitWebView* view, TimerFunction startTimer)
 }
 
 LoadWatchdog::~LoadWatchdog() {
-  g_cancellable_cancel(question_.get());
+  forgetQuestion();
+  followDocument(nullptr);
   g_signal_handlers_disconnect_by_data(view_, this);
 }
 
+void LoadWatchdog::begin() {
+  forgetQuestion();
+  setGivenUp(false);
+  request_ = Request::asked;
+  address_ = addressOf(view_);
+  timer_.restart();
+}
+
 void LoadWatchdog::noteEvent(WebKitLoadEvent event) {
-  isCommitted_ = event == WEBKIT_LOAD_COMMITTED;
-  knownLength_ = 0;
+  forgetQuestion();
+  setGivenUp(false);
+  // Another load than the announced one.
+  if (event == WEBKIT_LOAD_STARTED && (request_ == Request::answered || addressOf(view_) != address_))
+    request_ = Request::none;
+  if (event == WEBKIT_LOAD_COMMITTED && request_ == Request::asked) {
+    request_ = Request::answered;
+    followDocument(webkit_web_view_get_main_resource(view_));
+  }
+  if (event == WEBKIT_LOAD_FINISHED)
+    request_ = Request::none;
+  if (webkit_web_view_is_loading(view_))
+    timer_.restart();
   noteProgress();
 }
 
+/// Only what the announced request itself does counts while it is under way.
 void LoadWatchdog::noteProgress() {
-  if (webkit_web_view_is_loading(view_))
-    timer_.restart();
-  else
+  if (!webkit_web_view_is_loading(view_)) {
+    forgetQuestion();
+    setGivenUp(false);
+    request_ = Request::none;
     timer_.stop();
+  } else if (request_ == Request::none) {
+    timer_.restart();
+  }
+}
+
+void LoadWatchdog::followDocument(WebKitWebResource* document) {
+  if (document_)
+    g_signal_handlers_disconnect_by_data(document_.get(), this);
+  document_.reset(document ? WEBKIT_WEB_RESOURCE(g_object_ref(document)) : nullptr);
+  knownLength_ = 0;
+  const auto onEnd = +[](LoadWatchdog* self) { self->noteEndOfRequest(); };
+  if (document)
+    for (const char* signal : {"finished", "failed"})
+      g_signal_connect_swapped(document, signal, G_CALLBACK(onEnd), this);
+}
+
+void LoadWatchdog::noteEndOfRequest() {
+  request_ = Request::none;
+  noteProgress();
 }
 
 void LoadWatchdog::onStall() {
+  if (request_ == Request::asked)
+    giveUp();
+  else
+    ask();
+}
+
+void LoadWatchdog::ask() {
   WebKitWebResource* document = webkit_web_view_get_main_resource(view_);
-  if (!isCommitted_ || !document) {
-    webkit_web_view_stop_loading(view_);
+  if (!document)
     return;
-  }
-  const auto onAnswer = +[](GObject* resource, GAsyncResult* result, gpointer self) {
+  const auto onData = +[](GObject* resource, GAsyncResult* result, gpointer self) {
     gsize length = 0;
     g_autoptr(GError) error = nullptr;
     g_free(webkit_web_resource_get_data_finish(WEBKIT_WEB_RESOURCE(resource), result, &length, &error));
     if (!g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED))
-      static_cast<LoadWatchdog*>(self)->compareLength(length);
+      static_cast<LoadWatchdog*>(self)->onAnswer(!error, length);
   };
-  webkit_web_resource_get_data(document, question_.get(), onAnswer, this);
+  webkit_web_resource_get_data(document, question_.get(), onData, this);
+  answerTimer_ = startTimer_(answerLimit, [this] { setGivenUp(true); });
 }
 
-void LoadWatchdog::compareLength(gsize length) {
-  const bool hasGrown = length > std::exchange(knownLength_, length);
-  if (hasGrown)
-    noteProgress();
+void LoadWatchdog::onAnswer(bool isKnown, gsize length) {
+  answerTimer_.disconnect();
+  setGivenUp(false);
+  const bool isSilent = isKnown && length <= std::exchange(knownLength_, length);
+  if (request_ == Request::answered && isSilent)
+    giveUp();
   else
-    webkit_web_view_stop_loading(view_);
+    timer_.restart();
+}
+
+void LoadWatchdog::forgetQuestion() {
+  answerTimer_.disconnect();
+  g_cancellable_cancel(question_.get());
+  question_.reset(g_cancellable_new());
+}
+
+void LoadWatchdog::giveUp() {
+  request_ = Request::none;
+  setGivenUp(true);
+  webkit_web_view_stop_loading(view_);
+}
+
+void LoadWatchdog::setGivenUp(bool hasGivenUp) {
+  if (std::exchange(hasGivenUp_, hasGivenUp) != hasGivenUp)
+    onChange_();
 }
 
 } // namespace quorvel

@@ -3,33 +3,60 @@
 #include "engine/GObjectPointer.h"
 #include "engine/StallTimer.h"
 
+#include <functional>
+#include <string>
 #include <webkit/webkit.h>
 
 namespace quorvel {
 
-/// Ends the loads of a view that make no progress for `StallTimer::limit`; the engine itself would wait for
-/// ever.
+/// Ends the loading state of a view where nothing more will come; the engine itself would wait for ever.
 ///
-/// Progress is whatever the engine reports, and, where it reports nothing any more, that the document has
-/// grown: a document that falls silent half-way is given up after one limit or two. The view has to outlive
-/// the watchdog.
+/// A load that was announced here is broken off when its request, and nothing else, has been silent for
+/// `StallTimer::limit`: what has come of its document is counted by asking for it. Any other load, and what a
+/// document loads in its turn, is never touched. But where a page's process does not even answer, as while it
+/// computes for ever, the view counts as loading no longer until it does. The view has to outlive the
+/// watchdog.
 class LoadWatchdog {
  public:
-  LoadWatchdog(WebKitWebView* view, TimerFunction startTimer);
+  /// How long the page's process may take to answer when it is asked.
+  static constexpr std::chrono::seconds answerLimit{2};
+
+  /// `onChange` is called when `hasGivenUp()` may say something else.
+  LoadWatchdog(WebKitWebView* view, TimerFunction startTimer, std::function<void()> onChange);
   ~LoadWatchdog();
   LoadWatchdog(const LoadWatchdog&) = delete;
   LoadWatchdog& operator=(const LoadWatchdog&) = delete;
 
+  /// The view has just been told to load something.
+  void begin();
+  /// Nothing more is expected of what the view still calls loading.
+  bool hasGivenUp() const { return hasGivenUp_; }
+
  private:
+  /// How far the announced request has come.
+  enum class Request { none, asked, answered };
+
   void noteEvent(WebKitLoadEvent event);
   void noteProgress();
+  void noteEndOfRequest();
+  void followDocument(WebKitWebResource* document);
   void onStall();
-  void compareLength(gsize length);
+  void ask();
+  void onAnswer(bool isKnown, gsize length);
+  void forgetQuestion();
+  void giveUp();
+  void setGivenUp(bool hasGivenUp);
 
   WebKitWebView* view_;
+  TimerFunction startTimer_;
+  std::function<void()> onChange_;
   StallTimer timer_;
-  bool isCommitted_ = false;
-  gsize knownLength_ = 0; // of the document, in bytes, when last asked for
+  sigc::connection answerTimer_;
+  Request request_ = Request::none;
+  std::string address_; // of the announced request
+  bool hasGivenUp_ = false;
+  GObjectPointer<WebKitWebResource> document_; // that the announced request brings
+  gsize knownLength_ = 0;                      // of it, in bytes, when last asked for
   GObjectPointer<GCancellable> question_{g_cancellable_new()};
 };
 

@@ -1,17 +1,10 @@
 #pragma once
 
+#include "engine/TimerFunction.h"
+
 #include <chrono>
-#include <functional>
-#include <sigc++/sigc++.h>
 
 namespace quorvel {
-
-/// Calls `task` once after the delay, unless the returned connection is disconnected before.
-using TimerFunction =
-    std::function<sigc::connection(std::chrono::milliseconds delay, sigc::slot<void()> task)>;
-
-/// The main loop's own timer.
-TimerFunction mainLoopTimer();
 
 /// Notices a load that has stopped making progress. Main thread only; forgets its timer when it goes.
 class StallTimer {

@@ -22,7 +22,7 @@ class WebView::Engine {
  public:
   Engine(const WebFolders& folders, TimerFunction startTimer, Owner owner)
       : owner_(std::move(owner)), session_(folders), view_(makeView(session_.get())),
-        sandbox_(owner_.onUnconfined), watchdog_(view(), std::move(startTimer)) {
+        sandbox_(owner_.onUnconfined), watchdog_(view(), std::move(startTimer), owner_.onChange) {
     watchState();
     watchNavigation();
   }
@@ -38,7 +38,9 @@ class WebView::Engine {
   void load(const std::string& address) {
     requested_ = address;
     webkit_web_view_load_uri(view(), address.c_str());
+    watchdog_.begin();
   }
+  bool isLoading() const { return webkit_web_view_is_loading(view()) && !watchdog_.hasGivenUp(); }
 
  private:
   void watchState();
@@ -150,7 +152,7 @@ bool WebView::canGoForward() const {
 }
 
 bool WebView::isLoading() const {
-  return webkit_web_view_is_loading(engine_->view());
+  return engine_->isLoading();
 }
 
 std::string WebView::address() const {

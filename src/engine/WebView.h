@@ -14,8 +14,8 @@ namespace quorvel {
 /// The web engine as the rest of the program knows it: one view on web pages and the session behind it.
 ///
 /// Made after the toolkit has started; everything happens on the main thread. What a page may open, and
-/// where, is decided here by `choose()`. A load that fails is silent, and one that makes no progress for
-/// `StallTimer::limit` is ended.
+/// where, is decided here by `choose()`. A load that fails is silent, and one begun by `load()` whose request
+/// is silent for `StallTimer::limit` is ended.
 class WebView {
  public:
   /// Whom the view tells and asks. The functions are called inside the engine's own handlers, where its flags

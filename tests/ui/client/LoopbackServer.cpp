@@ -1,6 +1,8 @@
 #include "ui/client/LoopbackServer.h"
 
 #include <algorithm>
+#include <glibmm/main.h>
+#include <memory>
 #include <stdexcept>
 
 namespace quorvel {
@@ -40,6 +42,20 @@ std::string LoopbackServer::address(const std::string& path, const std::string& 
 
 void LoopbackServer::page(const std::string& path, const std::string& html) {
   answer(path, [html](SoupServerMessage* message) { respond(message, html); });
+}
+
+void LoopbackServer::slowPage(const std::string& path, const std::string& html,
+                              std::chrono::milliseconds delay) {
+  answer(path, [html, delay](SoupServerMessage* message) {
+    soup_server_message_pause(message);
+    const std::shared_ptr<SoupServerMessage> kept(SOUP_SERVER_MESSAGE(g_object_ref(message)), g_object_unref);
+    Glib::signal_timeout().connect_once(
+        [html, kept] {
+          respond(kept.get(), html);
+          soup_server_message_unpause(kept.get());
+        },
+        static_cast<unsigned>(delay.count()));
+  });
 }
 
 void LoopbackServer::redirect(const std::string& path, const std::string& target) {

@@ -2,6 +2,7 @@
 
 #include "engine/GObjectPointer.h"
 
+#include <chrono>
 #include <functional>
 #include <libsoup/soup.h>
 #include <map>
@@ -28,6 +29,8 @@ class LoopbackServer {
 
   void answer(const std::string& path, Answer answer) { answers_[path] = std::move(answer); }
   void page(const std::string& path, const std::string& html);
+  /// A page that comes after a while.
+  void slowPage(const std::string& path, const std::string& html, std::chrono::milliseconds delay);
   void redirect(const std::string& path, const std::string& target);
   /// Accepts the request and says nothing more.
   void silence(const std::string& path);

@@ -11,25 +11,26 @@
 
 namespace quorvel {
 
-/// The main loop's timers, each to be let off by hand.
+/// The main loop's timers, each to be let off by hand. The one for silent loads is meant where nothing else
+/// is said.
 class ManualTimer {
  public:
+  using Delay = std::chrono::milliseconds;
+
   TimerFunction function() {
-    return [this](std::chrono::milliseconds delay, sigc::slot<void()> task) {
-      lastDelay = delay;
-      ++starts;
-      task_ = std::move(task);
-      return sigc::connection(task_);
+    return [this](Delay delay, sigc::slot<void()> task) {
+      tasks_[delay] = std::move(task);
+      ++starts_[delay];
+      return sigc::connection(tasks_[delay]);
     };
   }
-  bool isRunning() const { return !task_.empty(); }
-  void letOff() { std::exchange(task_, {})(); }
-
-  std::chrono::milliseconds lastDelay{0};
-  int starts = 0;
+  bool isRunning(Delay delay = StallTimer::limit) { return !tasks_[delay].empty(); }
+  int starts(Delay delay = StallTimer::limit) { return starts_[delay]; }
+  void letOff(Delay delay = StallTimer::limit) { std::exchange(tasks_[delay], {})(); }
 
  private:
-  sigc::slot<void()> task_;
+  std::map<Delay, sigc::slot<void()>> tasks_; // no two of the same delay run at once
+  std::map<Delay, int> starts_;
 };
 
 /// A model on a real engine and a web server of its own, in folders of its own.

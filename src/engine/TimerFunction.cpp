@@ -1,0 +1,19 @@
+#include "engine/TimerFunction.h"
+
+#include <glibmm/main.h>
+#include <utility>
+
+namespace quorvel {
+
+TimerFunction mainLoopTimer() {
+  return [](std::chrono::milliseconds delay, sigc::slot<void()> task) {
+    return Glib::signal_timeout().connect(
+        [task = std::move(task)] {
+          task();
+          return false;
+        },
+        static_cast<unsigned>(delay.count()));
+  };
+}
+
+} // namespace quorvel
