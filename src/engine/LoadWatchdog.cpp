@@ -12,8 +12,8 @@ std::string addressOf(WebKitWebView* view) {
 
 } // namespace
 
-LoadWatchdog::LoadWatchdog(WebKitWebView* view, TimerFunction startTimer, std::function<void()> onChange)
-    : view_(view), startTimer_(startTimer), onChange_(std::move(onChange)),
+LoadWatchdog::LoadWatchdog(WebKitWebView* view, TimerFunction startTimer, Owner owner)
+    : view_(view), startTimer_(startTimer), owner_(std::move(owner)),
       timer_(std::move(startTimer), [this] { onStall(); }) {
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, LoadWatchdog* self) { self->noteEvent(event); };
@@ -124,12 +124,13 @@ void LoadWatchdog::forgetQuestion() {
 void LoadWatchdog::giveUp() {
   request_ = Request::none;
   setGivenUp(true);
+  owner_.onGivingUp();
   webkit_web_view_stop_loading(view_);
 }
 
 void LoadWatchdog::setGivenUp(bool hasGivenUp) {
   if (std::exchange(hasGivenUp_, hasGivenUp) != hasGivenUp)
-    onChange_();
+    owner_.onChange();
 }
 
 } // namespace quorvel

@@ -21,8 +21,11 @@ class LoadWatchdog {
   /// How long the page's process may take to answer when it is asked.
   static constexpr std::chrono::seconds answerLimit{2};
 
-  /// `onChange` is called when `hasGivenUp()` may say something else.
-  LoadWatchdog(WebKitWebView* view, TimerFunction startTimer, std::function<void()> onChange);
+  struct Owner {
+    std::function<void()> onGivingUp; ///< the announced load is about to be broken off
+    std::function<void()> onChange;   ///< `hasGivenUp()` may say something else now
+  };
+  LoadWatchdog(WebKitWebView* view, TimerFunction startTimer, Owner owner);
   ~LoadWatchdog();
   LoadWatchdog(const LoadWatchdog&) = delete;
   LoadWatchdog& operator=(const LoadWatchdog&) = delete;
@@ -49,7 +52,7 @@ class LoadWatchdog {
 
   WebKitWebView* view_;
   TimerFunction startTimer_;
-  std::function<void()> onChange_;
+  Owner owner_;
   StallTimer timer_;
   sigc::connection answerTimer_;
   Request request_ = Request::none;

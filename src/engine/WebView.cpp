@@ -1,5 +1,6 @@
 #include "engine/WebView.h"
 
+#include "engine/CommandRunner.h"
 #include "engine/LoadWatchdog.h"
 #include "engine/NavigationPolicy.h"
 #include "engine/PageSandbox.h"
@@ -22,7 +23,8 @@ class WebView::Engine {
  public:
   Engine(const WebFolders& folders, TimerFunction startTimer, Owner owner)
       : owner_(std::move(owner)), session_(folders), view_(makeView(session_.get())),
-        sandbox_(owner_.onUnconfined), watchdog_(view(), std::move(startTimer), owner_.onChange) {
+        sandbox_(owner_.onUnconfined), commands_(view(), startTimer, [this] { watchdog_.begin(); }),
+        watchdog_(view(), std::move(startTimer), {[this] { commands_.giveUp(); }, owner_.onChange}) {
     watchState();
     watchNavigation();
   }
@@ -35,10 +37,9 @@ class WebView::Engine {
 
   WebKitWebView* view() const { return view_.get(); }
 
+  CommandRunner& commands() { return commands_; }
   void load(const std::string& address) {
-    requested_ = address;
-    webkit_web_view_load_uri(view(), address.c_str());
-    watchdog_.begin();
+    isAskedByPage_ ? commands_.loadForPage(address) : commands_.load(address);
   }
   bool isLoading() const { return webkit_web_view_is_loading(view()) && !watchdog_.hasGivenUp(); }
 
@@ -53,9 +54,10 @@ class WebView::Engine {
   Owner owner_;
   WebSession session_;
   GObjectPointer<WebKitWebView> view_;
-  std::string requested_; // the address of the last `load()`
   PageSandbox sandbox_;
+  CommandRunner commands_;
   LoadWatchdog watchdog_;
+  bool isAskedByPage_ = false; // for what the owner of the view is told at this moment
 };
 
 void WebView::Engine::watchState() {
@@ -92,7 +94,8 @@ bool WebView::Engine::decide(WebKitPolicyDecision* decision, WebKitPolicyDecisio
   auto* action =
       webkit_navigation_policy_decision_get_navigation_action(WEBKIT_NAVIGATION_POLICY_DECISION(decision));
   const auto asked = request(action, type == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION);
-  if (settle(asked) == NavigationChoice::view)
+  const bool isInTheWay = commands_.isUnderWay() && !commands_.claims(action);
+  if (settle(asked) == NavigationChoice::view && !isInTheWay)
     webkit_policy_decision_use(decision);
   else
     webkit_policy_decision_ignore(decision);
@@ -101,8 +104,11 @@ bool WebView::Engine::decide(WebKitPolicyDecision* decision, WebKitPolicyDecisio
 
 void WebView::Engine::openWindow(WebKitNavigationAction* action) {
   const auto asked = request(action, true);
-  if (settle(asked) == NavigationChoice::view)
-    owner_.openWindow(asked.address);
+  if (settle(asked) != NavigationChoice::view || commands_.isUnderWay())
+    return;
+  isAskedByPage_ = true;
+  owner_.openWindow(asked.address);
+  isAskedByPage_ = false;
 }
 
 NavigationChoice WebView::Engine::settle(const NavigationRequest& asked) {
@@ -118,7 +124,7 @@ NavigationRequest WebView::Engine::request(WebKitNavigationAction* action, bool 
   // What a page does by itself has a type of its own or cannot name a file.
   const bool isDropped =
       webkit_navigation_action_get_navigation_type(action) == WEBKIT_NAVIGATION_TYPE_OTHER &&
-      address != requested_;
+      address != commands_.requested();
   return {address, wantsWindow, isDropped};
 }
 
@@ -132,15 +138,15 @@ void WebView::load(const std::string& address) {
 }
 
 void WebView::reload() {
-  webkit_web_view_reload(engine_->view());
+  engine_->commands().reload();
 }
 
 void WebView::goBack() {
-  webkit_web_view_go_back(engine_->view());
+  engine_->commands().goBack();
 }
 
 void WebView::goForward() {
-  webkit_web_view_go_forward(engine_->view());
+  engine_->commands().goForward();
 }
 
 bool WebView::canGoBack() const {

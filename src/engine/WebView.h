@@ -15,7 +15,8 @@ namespace quorvel {
 ///
 /// Made after the toolkit has started; everything happens on the main thread. What a page may open, and
 /// where, is decided here by `choose()`. A load that fails is silent, and one begun by `load()` whose request
-/// is silent for `StallTimer::limit` is ended.
+/// is silent for `StallTimer::limit` is ended. A page that hangs or goes elsewhere is no obstacle: then its
+/// process makes way for what the owner asks for.
 class WebView {
  public:
   /// Whom the view tells and asks. The functions are called inside the engine's own handlers, where its flags

@@ -1,0 +1,159 @@
+#include "engine/CommandRunner.h"
+
+#include <glibmm/main.h>
+#include <utility>
+
+namespace quorvel {
+namespace {
+
+std::string addressOf(WebKitWebView* view) {
+  const char* address = webkit_web_view_get_uri(view);
+  return address ? address : "";
+}
+
+std::string withoutFragment(const std::string& address) {
+  return address.substr(0, address.find('#'));
+}
+
+bool hasFragment(const std::string& address) {
+  return address.find('#') != std::string::npos;
+}
+
+} // namespace
+
+CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, std::function<void()> onLoad)
+    : view_(view), onLoad_(std::move(onLoad)),
+      command_({std::move(startTimer), [this] { ask(); }, [this] { insist(); }}) {
+  const auto onEvent =
+      +[](WebKitWebView*, WebKitLoadEvent event, CommandRunner* self) { self->noteEvent(event); };
+  g_signal_connect(view_, "load-changed", G_CALLBACK(onEvent), this);
+  const auto onFailure = +[](WebKitWebView*, WebKitLoadEvent, const char*, const GError* error,
+                             CommandRunner* self) -> gboolean {
+    self->noteFailure(error);
+    return FALSE;
+  };
+  g_signal_connect(view_, "load-failed", G_CALLBACK(onFailure), this);
+  const auto onEnd = +[](CommandRunner* self) { self->command_.processEnded(); };
+  g_signal_connect_swapped(view_, "web-process-terminated", G_CALLBACK(onEnd), this);
+}
+
+CommandRunner::~CommandRunner() {
+  g_cancellable_cancel(question_.get());
+  g_signal_handlers_disconnect_by_data(view_, this);
+}
+
+void CommandRunner::load(const std::string& address) {
+  requested_ = address;
+  carryOut({WEBKIT_NAVIGATION_TYPE_OTHER, [this] { tellToLoad(); }});
+}
+
+void CommandRunner::loadForPage(const std::string& address) {
+  requested_ = address;
+  tellToLoad();
+}
+
+void CommandRunner::tellToLoad() {
+  webkit_web_view_load_uri(view_, requested_.c_str());
+  onLoad_();
+}
+
+void CommandRunner::reload() {
+  // Before there ever was a page the engine has nothing to reload.
+  if (!webkit_back_forward_list_get_current_item(webkit_web_view_get_back_forward_list(view_)))
+    load(requested_);
+  else
+    carryOut({WEBKIT_NAVIGATION_TYPE_RELOAD, [this] { webkit_web_view_reload(view_); }});
+}
+
+void CommandRunner::goBack() {
+  goTo(webkit_back_forward_list_get_back_item(webkit_web_view_get_back_forward_list(view_)));
+}
+
+void CommandRunner::goForward() {
+  goTo(webkit_back_forward_list_get_forward_item(webkit_web_view_get_back_forward_list(view_)));
+}
+
+void CommandRunner::goTo(WebKitBackForwardListItem* item) {
+  if (!item)
+    return;
+  target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(item)));
+  carryOut({WEBKIT_NAVIGATION_TYPE_BACK_FORWARD,
+            [this] { webkit_web_view_go_to_back_forward_list_item(view_, target_.get()); }});
+}
+
+void CommandRunner::carryOut(Wish wish) {
+  wish_ = std::move(wish);
+  command_.end();
+  const auto onScreen = addressOf(view_);
+  if (!webkit_web_view_get_is_web_process_responsive(view_)) {
+    insist();
+    return;
+  }
+  wish_.carryOut();
+  expected_ = addressOf(view_);
+  staysInDocument_ = hasFragment(expected_) && withoutFragment(expected_) == withoutFragment(onScreen);
+  // Where there is no page, none can be in the way.
+  if (!onScreen.empty())
+    command_.begin();
+}
+
+bool CommandRunner::claims(WebKitNavigationAction* action) {
+  if (webkit_navigation_action_is_redirect(action))
+    return true;
+  const char* address = webkit_uri_request_get_uri(webkit_navigation_action_get_request(action));
+  const bool isOurs = webkit_navigation_action_get_navigation_type(action) == wish_.type &&
+                      (wish_.type != WEBKIT_NAVIGATION_TYPE_OTHER || expected_ == address);
+  if (isOurs)
+    command_.accepted();
+  if (isOurs && staysInDocument_)
+    command_.end();
+  return isOurs;
+}
+
+void CommandRunner::ask() {
+  const auto onAnswer = +[](GObject* view, GAsyncResult* result, gpointer self) {
+    g_autoptr(GError) error = nullptr;
+    g_autoptr(JSCValue) value =
+        webkit_web_view_evaluate_javascript_finish(WEBKIT_WEB_VIEW(view), result, &error);
+    if (!g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED))
+      static_cast<CommandRunner*>(self)->noteAnswer();
+  };
+  g_cancellable_cancel(question_.get());
+  question_.reset(g_cancellable_new());
+  webkit_web_view_evaluate_javascript(view_, "0", -1, "quorvel", nullptr, question_.get(), onAnswer, this);
+}
+
+void CommandRunner::noteAnswer() {
+  auto* history = webkit_web_view_get_back_forward_list(view_);
+  // Between two states of one document no load is needed.
+  const bool isThere = wish_.type == WEBKIT_NAVIGATION_TYPE_BACK_FORWARD &&
+                       webkit_back_forward_list_get_current_item(history) == target_.get();
+  command_.answered(webkit_web_view_is_loading(view_), isThere);
+}
+
+void CommandRunner::insist() {
+  // Not within the engine's own handling of what the process has said.
+  Glib::signal_idle().connect_once(sigc::mem_fun(*this, &CommandRunner::startAfresh), Glib::PRIORITY_DEFAULT);
+}
+
+void CommandRunner::startAfresh() {
+  command_.end();
+  webkit_web_view_terminate_web_process(view_);
+  wish_.carryOut();
+}
+
+void CommandRunner::noteEvent(WebKitLoadEvent event) {
+  if (event == WEBKIT_LOAD_STARTED)
+    command_.loadStarted();
+  if (event == WEBKIT_LOAD_COMMITTED)
+    command_.loadCommitted();
+}
+
+void CommandRunner::noteFailure(const GError* error) {
+  if (g_error_matches(error, WEBKIT_NETWORK_ERROR, WEBKIT_NETWORK_ERROR_CANCELLED))
+    command_.loadBrokenOff();
+  else
+    command_.loadFailed();
+}
+
+} // namespace quorvel

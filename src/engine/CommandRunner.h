@@ -1,0 +1,68 @@
+#pragma once
+
+#include "engine/GObjectPointer.h"
+#include "engine/OwnersCommand.h"
+
+#include <functional>
+#include <string>
+#include <webkit/webkit.h>
+
+namespace quorvel {
+
+/// Has a view do what the owner asks for, whatever the page on screen is up to: `OwnersCommand` on the
+/// engine. The view has to outlive it.
+class CommandRunner : public sigc::trackable {
+ public:
+  /// `onLoad` is called each time the view has just been told to load an address.
+  CommandRunner(WebKitWebView* view, TimerFunction startTimer, std::function<void()> onLoad);
+  ~CommandRunner();
+  CommandRunner(const CommandRunner&) = delete;
+  CommandRunner& operator=(const CommandRunner&) = delete;
+
+  void load(const std::string& address);
+  /// Where the page itself has asked for it, in place of a window.
+  void loadForPage(const std::string& address);
+  void reload();
+  void goBack();
+  void goForward();
+
+  /// The address of the last load, as it was asked for.
+  const std::string& requested() const { return requested_; }
+
+  /// Until the owner has what he asked for, the page has no say in where the view goes.
+  bool isUnderWay() const { return command_.isUnderWay(); }
+  /// Whether a navigation that the view asks about is the one that the owner asked for, or follows from it.
+  bool claims(WebKitNavigationAction* action);
+  /// What was asked for is not waited for any longer.
+  void giveUp() { command_.end(); }
+
+ private:
+  /// What was asked for, and as what the engine will ask back.
+  struct Wish {
+    WebKitNavigationType type = WEBKIT_NAVIGATION_TYPE_OTHER;
+    std::function<void()> carryOut = [] {};
+  };
+
+  void carryOut(Wish wish);
+  void goTo(WebKitBackForwardListItem* item);
+  void ask();
+  void noteAnswer();
+  void insist();
+  void startAfresh();
+  void noteEvent(WebKitLoadEvent event);
+  void noteFailure(const GError* error);
+
+  void tellToLoad();
+
+  WebKitWebView* view_;
+  std::function<void()> onLoad_;
+  std::string requested_;
+  Wish wish_;
+  std::string expected_; // the address that the wish leads to, as the engine writes it
+  bool staysInDocument_ = false;
+  GObjectPointer<WebKitBackForwardListItem> target_; // in the history
+  OwnersCommand command_;
+  GObjectPointer<GCancellable> question_{g_cancellable_new()};
+};
+
+} // namespace quorvel

@@ -1,0 +1,163 @@
+#include "engine/OwnersCommand.h"
+#include "engine/SystemProcess.h"
+#include "ui/client/ModelTest.h"
+
+#include <csignal>
+
+namespace quorvel {
+namespace {
+
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+constexpr auto hang = "while (true) {}";
+
+std::string always(const std::string& script) {
+  return "setInterval(() => { " + script + " }, 0)";
+}
+
+/// A page that would rather keep the owner where it is.
+class HostilePageTest : public ModelTest {
+ protected:
+  /// Shows a page that does this a moment after it has loaded.
+  void showPageThat(const std::string& does) {
+    server.page("/armed", "");
+    server.page("/hostile.html",
+                "<title>Hostile</title><form id=form action=/elsewhere.html></form>"
+                "<a id=link href=/elsewhere.html></a><script>let n = 0;"
+                "function arm() { const r = new XMLHttpRequest; r.open('GET', '/armed', false); r.send(); " +
+                    does + " } addEventListener('load', () => setTimeout(arm, 50))</script>");
+    showHostilePage();
+  }
+  void showHostilePage() {
+    const int before = server.count("/armed");
+    model->load(server.address("/hostile.html"));
+    ASSERT_TRUE(tests::eventually([&] { return server.count("/armed") > before; }));
+    ASSERT_TRUE(tests::eventually([&] { return *model->title == "Hostile"; }));
+  }
+  void expectArrival(const std::string& path, const std::string& title) {
+    EXPECT_TRUE(tests::eventually([&] {
+      spendTime();
+      return *model->title == title && *model->currentURLString == server.address(path);
+    })) << *model->currentURLString
+        << ", " << *model->title;
+  }
+  /// Time that runs twenty times as fast.
+  void spendTime() {
+    for (auto& [delay, watch] : watches_) {
+      if (!timer.isRunning(delay) || watch.start != timer.starts(delay))
+        watch = {timer.starts(delay), Clock::now()};
+      else if (Clock::now() - watch.startedAt > delay / 20)
+        timer.letOff(delay);
+    }
+  }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  struct Watch {
+    int start = 0;
+    Clock::time_point startedAt;
+  };
+  std::map<ManualTimer::Delay, Watch> watches_{{OwnersCommand::interval, {}}, {OwnersCommand::patience, {}}};
+};
+
+TEST_F(HostilePageTest, ReloadBringsAHangingPageBack) {
+  showPageThat(hang);
+  server.page("/hostile.html", "<title>Recovered</title>");
+  model->reload();
+  expectArrival("/hostile.html", "Recovered");
+}
+
+TEST_F(HostilePageTest, ReloadBringsBackAPageThatHangsWhileItLoads) {
+  server.page(
+      "/hang.html",
+      "<title>Hang</title><script>const r = new XMLHttpRequest; r.open('GET', '/armed', false); r.send();" +
+          std::string(hang) + "</script>");
+  model->load(server.address("/hang.html"));
+  ASSERT_TRUE(tests::eventually([&] { return server.count("/armed") > 0; }));
+  server.page("/hang.html", "<title>Recovered</title>");
+  model->reload();
+  expectArrival("/hang.html", "Recovered");
+}
+
+TEST_F(HostilePageTest, ADestinationIsReachedFromAHangingPage) {
+  showPageThat(hang);
+  model->load(server.address("/pricing.html"));
+  expectArrival("/pricing.html", "Pricing");
+}
+
+TEST_F(HostilePageTest, BackLeadsOutOfAHangingPageAndForwardToItAgain) {
+  show("/agent.html");
+  showPageThat(hang);
+  model->goBack();
+  expectArrival("/agent.html", "Agent");
+  EXPECT_FALSE(model->canGoBack);
+  server.page("/hostile.html", "<title>Recovered</title>");
+  model->goForward();
+  expectArrival("/hostile.html", "Recovered");
+}
+
+TEST_F(HostilePageTest, AStoppedProcessMakesWayToo) {
+  show("/agent.html");
+  for (const auto& page : SystemProcess::ourselves().descendants("WebKitWebProcess"))
+    ::kill(page.id(), SIGSTOP);
+  model->load(server.address("/pricing.html"));
+  expectArrival("/pricing.html", "Pricing");
+}
+
+TEST_F(HostilePageTest, APageThatMerelyComputesIsLeftAlone) {
+  showPageThat(hang);
+  EXPECT_FALSE(timer.isRunning(OwnersCommand::patience)) << "the owner has asked for nothing";
+  EXPECT_THAT(SystemProcess::ourselves().descendants("WebKitWebProcess"), Not(IsEmpty()));
+  EXPECT_EQ(server.count("/hostile.html"), 1);
+}
+
+struct Trick {
+  const char* name;
+  std::string does;
+};
+
+void PrintTo(const Trick& trick, std::ostream* out) {
+  *out << trick.name;
+}
+
+class TrickTest : public HostilePageTest, public ::testing::WithParamInterface<Trick> {
+ protected:
+  void SetUp() override {
+    server.slowPage("/slow.html", "<title>Slow</title>", std::chrono::milliseconds(400));
+    server.slowPage("/elsewhere.html", "<title>Elsewhere</title>", std::chrono::milliseconds(400));
+    show("/agent.html");
+    showPageThat(GetParam().does);
+  }
+};
+
+TEST_P(TrickTest, DoesNotKeepTheOwnerFromGoingBackOrToADestination) {
+  model->goBack();
+  expectArrival("/agent.html", "Agent");
+  showHostilePage();
+  model->load(server.address("/slow.html"));
+  expectArrival("/slow.html", "Slow");
+}
+
+TEST_P(TrickTest, DoesNotKeepTheOwnerFromReloading) {
+  server.slowPage("/hostile.html", "<title>Recovered</title>", std::chrono::milliseconds(400));
+  model->reload();
+  EXPECT_TRUE(tests::eventually([&] { return spendTime(), *model->title == "Recovered"; })) << *model->title;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Page, TrickTest,
+    ::testing::Values(Trick{"Windows", always("window.open('/elsewhere.html?' + n++)")},
+                      Trick{"Locations", always("location.href = '/elsewhere.html?' + n++")},
+                      Trick{"Replacements", always("location.replace('/elsewhere.html?' + n++)")},
+                      Trick{"Fragments", always("location.hash = n++")},
+                      Trick{"States", always("history.replaceState({}, '', '?' + n++)")},
+                      Trick{"Reloads", always("location.reload()")}, Trick{"Forms", always("form.submit()")},
+                      Trick{"Links", always("link.click()")}, Trick{"Stops", always("window.stop()")},
+                      Trick{"HangOnLeaving", "addEventListener('pagehide', () => { while (true) {} })"},
+                      Trick{"HangBeforeLeaving",
+                            "addEventListener('beforeunload', () => { while (true) {} })"}),
+    [](const auto& trick) { return trick.param.name; });
+
+} // namespace
+} // namespace quorvel
