@@ -23,10 +23,8 @@ NavigationChoice choose(const NavigationRequest& request) {
   const auto scheme = schemeOf(request.address);
   if (scheme == "mailto" || scheme == "tel")
     return NavigationChoice::system;
-  if (request.wantsWindow && (request.address.empty() || request.address == "about:blank"))
-    return NavigationChoice::nothing;
   // A window's address is loaded in the program's name, which opens doors that are shut to a page.
-  if (request.wantsWindow && (scheme == "javascript" || scheme == "file"))
+  if (request.wantsWindow && scheme != "https" && scheme != "http")
     return NavigationChoice::nothing;
   if (request.isDropped && scheme == "file")
     return NavigationChoice::nothing;

@@ -21,8 +21,8 @@ enum class NavigationChoice {
 };
 
 /// The one rule for every way a navigation can begin. Mail and telephone links go to the system, everything
-/// else stays in the view on whatever host it lies. A window without an address is nothing to load, nor is
-/// one that would run a script or read a file as if the program had asked; and a dropped file does not
+/// else stays in the view on whatever host it lies. A window has to be on the web: any other is nothing to
+/// load, or would run a script or read a file as if the program had asked. And a dropped file does not
 /// replace the page.
 NavigationChoice choose(const NavigationRequest& request);
 

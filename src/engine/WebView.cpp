@@ -3,7 +3,9 @@
 #include "engine/CommandRunner.h"
 #include "engine/LoadWatchdog.h"
 #include "engine/NavigationPolicy.h"
+#include "engine/OncePerGesture.h"
 #include "engine/PageSandbox.h"
+#include "engine/UserGestures.h"
 #include "engine/WebSession.h"
 #include "engine/makeView.h"
 
@@ -24,7 +26,8 @@ class WebView::Engine {
   Engine(const WebFolders& folders, TimerFunction startTimer, Owner owner)
       : owner_(std::move(owner)), session_(folders), view_(makeView(session_.get())),
         sandbox_(owner_.onUnconfined), commands_(view(), startTimer, [this] { watchdog_.begin(); }),
-        watchdog_(view(), std::move(startTimer), {[this] { commands_.giveUp(); }, owner_.onChange}) {
+        watchdog_(view(), std::move(startTimer), {[this] { commands_.giveUp(); }, owner_.onChange}),
+        gestures_(view(), [this] { noteGesture(); }) {
     watchState();
     watchNavigation();
   }
@@ -37,15 +40,23 @@ class WebView::Engine {
 
   WebKitWebView* view() const { return view_.get(); }
 
-  CommandRunner& commands() { return commands_; }
+  /// For what the owner asks for now.
+  CommandRunner& commands() {
+    isOwnerInPage_ = false;
+    launches_.renew();
+    return commands_;
+  }
   void load(const std::string& address) {
-    isAskedByPage_ ? commands_.loadForPage(address) : commands_.load(address);
+    isAskedByPage_ ? commands_.loadForPage(address) : commands().load(address);
   }
   bool isLoading() const { return webkit_web_view_is_loading(view()) && !watchdog_.hasGivenUp(); }
 
  private:
   void watchState();
   void watchNavigation();
+  void noteGesture();
+  void noteEvent(WebKitLoadEvent event);
+  bool isInTheWay(WebKitNavigationAction* action);
   bool decide(WebKitPolicyDecision* decision, WebKitPolicyDecisionType type);
   void openWindow(WebKitNavigationAction* action);
   NavigationChoice settle(const NavigationRequest& asked);
@@ -57,6 +68,10 @@ class WebView::Engine {
   PageSandbox sandbox_;
   CommandRunner commands_;
   LoadWatchdog watchdog_;
+  UserGestures gestures_;
+  OncePerGesture launches_;    // of mail and telephone programs
+  bool isOwnerInPage_ = false; // rather than at the last command
+  bool isByGesture_ = false;   // the navigation under way
   bool isAskedByPage_ = false; // for what the owner of the view is told at this moment
 };
 
@@ -67,14 +82,25 @@ void WebView::Engine::watchState() {
     g_signal_connect_swapped(view(), signal, G_CALLBACK(onState), this);
   g_signal_connect_swapped(webkit_web_view_get_back_forward_list(view()), "changed", G_CALLBACK(onState),
                            this);
-  // The first word of a page: its process is there, and nothing of it is on the screen yet.
-  const auto onPage = +[](Engine* self) { self->sandbox_.look(); };
-  g_signal_connect_swapped(view(), "load-changed", G_CALLBACK(onPage), this);
+  const auto onPage = +[](WebKitWebView*, WebKitLoadEvent event, Engine* self) { self->noteEvent(event); };
+  g_signal_connect(view(), "load-changed", G_CALLBACK(onPage), this);
   const auto onFailure = +[](Engine* self) -> gboolean {
     self->owner_.onChange();
     return FALSE; // the engine shows its own page
   };
   g_signal_connect_swapped(view(), "load-failed", G_CALLBACK(onFailure), this);
+}
+
+void WebView::Engine::noteGesture() {
+  isOwnerInPage_ = true;
+  launches_.renew();
+}
+
+void WebView::Engine::noteEvent(WebKitLoadEvent event) {
+  // The first word of a page: its process is there, and nothing of it is on the screen yet.
+  sandbox_.look();
+  if (event == WEBKIT_LOAD_COMMITTED && std::exchange(isByGesture_, false))
+    launches_.renew();
 }
 
 void WebView::Engine::watchNavigation() {
@@ -88,14 +114,23 @@ void WebView::Engine::watchNavigation() {
   g_signal_connect(view(), "create", G_CALLBACK(onWindow), this);
 }
 
+/// Until the owner has what he has asked for; unless he has turned to the page since, and wants this.
+bool WebView::Engine::isInTheWay(WebKitNavigationAction* action) {
+  if (!commands_.isUnderWay() || commands_.claims(action))
+    return false;
+  if (isOwnerInPage_ && webkit_navigation_action_is_user_gesture(action))
+    commands_.giveUp();
+  return commands_.isUnderWay();
+}
+
 bool WebView::Engine::decide(WebKitPolicyDecision* decision, WebKitPolicyDecisionType type) {
   if (type == WEBKIT_POLICY_DECISION_TYPE_RESPONSE)
     return false;
   auto* action =
       webkit_navigation_policy_decision_get_navigation_action(WEBKIT_NAVIGATION_POLICY_DECISION(decision));
   const auto asked = request(action, type == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION);
-  const bool isInTheWay = commands_.isUnderWay() && !commands_.claims(action);
-  if (settle(asked) == NavigationChoice::view && !isInTheWay)
+  isByGesture_ = webkit_navigation_action_is_user_gesture(action);
+  if (!isInTheWay(action) && settle(asked) == NavigationChoice::view)
     webkit_policy_decision_use(decision);
   else
     webkit_policy_decision_ignore(decision);
@@ -104,7 +139,7 @@ bool WebView::Engine::decide(WebKitPolicyDecision* decision, WebKitPolicyDecisio
 
 void WebView::Engine::openWindow(WebKitNavigationAction* action) {
   const auto asked = request(action, true);
-  if (settle(asked) != NavigationChoice::view || commands_.isUnderWay())
+  if (isInTheWay(action) || settle(asked) != NavigationChoice::view)
     return;
   isAskedByPage_ = true;
   owner_.openWindow(asked.address);
@@ -113,7 +148,7 @@ void WebView::Engine::openWindow(WebKitNavigationAction* action) {
 
 NavigationChoice WebView::Engine::settle(const NavigationRequest& asked) {
   const auto choice = choose(asked);
-  if (choice == NavigationChoice::system)
+  if (choice == NavigationChoice::system && launches_.take())
     owner_.openInSystem(asked.address);
   return choice;
 }

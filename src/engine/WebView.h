@@ -24,7 +24,8 @@ class WebView {
   struct Owner {
     /// Address, title, history or loading state may have changed.
     std::function<void()> onChange = [] {};
-    /// Something on screen leads out of the view: a mail or telephone link.
+    /// Something on screen leads out of the view: a mail or telephone link. A page comes to this once for
+    /// each time that its owner turns to it; what it tries beyond that is dropped.
     std::function<void(const std::string& address)> openInSystem = [](const std::string&) {};
     /// The page asks for a window. There is none but this one's.
     std::function<void(const std::string& address)> openWindow = [](const std::string&) {};

@@ -153,7 +153,8 @@ TEST_F(DesktopBrowserModelTest, AWindowOpenedByAScriptLoadsInTheSameViewAndBackR
 
 TEST_F(DesktopBrowserModelTest, AWindowOpenedWithoutAnAddressDoesNothing) {
   show("/agent.html");
-  runScript("window.open(); window.open(''); window.open('about:blank')");
+  runScript("window.open(); window.open(''); window.open('about:blank');"
+            "window.open('about:blank#x'); window.open('data:text/html,x'); window.open('blob:x')");
   settle();
   EXPECT_EQ(*model->currentURLString, server.address("/agent.html"));
   EXPECT_FALSE(model->canGoBack);

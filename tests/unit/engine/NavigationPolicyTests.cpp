@@ -46,6 +46,16 @@ TEST(NavigationPolicy, AWindowIsNoWayToRunAScriptOrReadAFile) {
   EXPECT_EQ(choose({"file:///etc/passwd", true}), NavigationChoice::nothing);
 }
 
+TEST(NavigationPolicy, AWindowHasToBeOnTheWeb) {
+  for (const char* address :
+       {"about:blank#x", "about:blank?x", "ABOUT:blank", "about:srcdoc", "about:memory", "data:text/html,x",
+        "blob:https://app.quorvel.example/1", "view-source:https://app.quorvel.example/", "webkit://gpu",
+        "ftp://host.example/", "resource:///org/x", "File:///etc/passwd", "httpss://host.example/", "x", ":"})
+    EXPECT_EQ(choose({address, true}), NavigationChoice::nothing) << address;
+  EXPECT_EQ(choose({"http://host.example/", true}), NavigationChoice::view);
+  EXPECT_EQ(choose({"HTTPS://host.example/", true}), NavigationChoice::view);
+}
+
 TEST(NavigationPolicy, SchemesThatAPageThinksOfLeaveNothingBehind) {
   const auto memory = [] {
     long whole = 0, resident = 0; // in pages

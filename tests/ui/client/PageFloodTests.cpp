@@ -1,0 +1,106 @@
+#include "support/RealInput.h"
+#include "ui/client/ModelTest.h"
+
+namespace quorvel {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+
+/// A page in a window, for real clicks. It reports each time it has tried something fifty times.
+class PageFloodTest : public ModelTest {
+ protected:
+  void SetUp() override {
+    auto& view = model->webView().widget();
+    view.set_size_request(600, 400);
+    window = std::make_unique<tests::TestWindow>(view, 600, 400);
+    server.page("/tried", "");
+  }
+  void TearDown() override { window.reset(); }
+
+  /// Shows a page with these elements that has `attempt` made with each click, and once by itself.
+  void showPageThatTries(const std::string& attempt, const std::string& html = "") {
+    server.page("/flood.html",
+                "<title>Flood</title><body style='height: 380px'>" + html +
+                    "<script>let n = 0; const tryAgain = () => { const timer = setInterval(() => { " +
+                    attempt +
+                    "; if (++n % 50 == 0) { clearInterval(timer); fetch('/tried') } }, 1) };"
+                    "addEventListener('click', event => event.isTrusted && tryAgain());"
+                    "addEventListener('load', tryAgain)</script>");
+    show("/flood.html");
+    waitForTry();
+  }
+  void waitForTry() {
+    ++tries;
+    ASSERT_TRUE(tests::eventually([&] { return server.count("/tried"); }, testing::Ge(tries)));
+    settle();
+  }
+  void clickOnThePage() {
+    tests::clickOn(model->webView().widget());
+    waitForTry();
+  }
+
+  std::unique_ptr<tests::TestWindow> window;
+  int tries = 0;
+};
+
+struct Launch {
+  const char* name;
+  const char* attempt;
+  const char* html = "";
+};
+
+void PrintTo(const Launch& launch, std::ostream* out) {
+  *out << launch.name;
+}
+
+class LaunchTest : public PageFloodTest, public ::testing::WithParamInterface<Launch> {};
+
+TEST_P(LaunchTest, HappensOncePerDocumentAndOncePerClick) {
+  server.redirect("/redirect", "mailto:a@b.example");
+  showPageThatTries(GetParam().attempt, GetParam().html);
+  EXPECT_THAT(opened, ElementsAre(StartsWith("mailto:a@b.example")));
+  clickOnThePage();
+  EXPECT_THAT(opened, SizeIs(2));
+  clickOnThePage();
+  EXPECT_THAT(opened, SizeIs(3));
+  EXPECT_EQ(*model->currentURLString, server.address("/flood.html"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, LaunchTest,
+    ::testing::Values(
+        Launch{"Links", "a.click()", "<a id=a href='mailto:a@b.example'></a>"},
+        Launch{"BlankTargets", "a.click()", "<a id=a target=_blank href='mailto:a@b.example'></a>"},
+        Launch{"Locations", "location.href = 'mailto:a@b.example'"},
+        Launch{"Frames", "f.src = 'mailto:a@b.example'", "<iframe id=f></iframe>"},
+        Launch{"Forms", "f.submit()", "<form id=f action='mailto:a@b.example' method=get></form>"},
+        Launch{"Windows", "open('mailto:a@b.example')"},
+        Launch{"Redirects", "f.src = '/redirect?' + n", "<iframe id=f></iframe>"}),
+    [](const auto& test) { return test.param.name; });
+
+TEST_F(PageFloodTest, APageThatReloadsItselfLaunchesNothingAnew) {
+  server.page("/again.html", "<script>location.href = 'mailto:a@b.example';"
+                             "setTimeout(() => location.reload(), 20)</script>");
+  model->load(server.address("/again.html"));
+  ASSERT_TRUE(tests::eventually([&] { return server.count("/again.html") > 10; }));
+  EXPECT_THAT(opened, SizeIs(1));
+  model->load(server.address("/agent.html"));
+  waitForAddress("/agent.html");
+}
+
+TEST_F(PageFloodTest, ARedirectThatAClickBeganCountsAsTheClick) {
+  server.redirect("/redirect", "mailto:a@b.example");
+  server.page("/links.html",
+              "<a href=/redirect style='display: block; height: 380px'>x</a><script>"
+              "addEventListener('load', () => setTimeout(() => { location.href = 'tel:1' }))</script>");
+  show("/links.html");
+  ASSERT_TRUE(tests::eventually([&] { return opened; }, ElementsAre("tel:1")));
+  settle();
+  tests::clickOn(model->webView().widget());
+  EXPECT_TRUE(tests::eventually([&] { return opened; }, ElementsAre("tel:1", "mailto:a@b.example")));
+}
+
+} // namespace
+} // namespace quorvel
