@@ -5,10 +5,12 @@
 #include "brand/StatusPill.h"
 #include "brand/text.h"
 #include "brand/tone.h"
+#include "support/Looks.h"
 #include "support/RealInput.h"
 #include "support/TestWindow.h"
 #include "support/TurkishLanguage.h"
 
+#include <cmath>
 #include <gmock/gmock.h>
 
 namespace quorvel {
@@ -43,6 +45,71 @@ TEST(BrandMark, IsASquareLightTileOfExactlyItsSize) {
   EXPECT_EQ(mark->get_width(), 104);
   EXPECT_EQ(mark->get_height(), 104);
   EXPECT_THAT(window.pixel(52, 8), IsColor(QuorvelBrand::control));
+}
+
+/// A mark of a hundred points on screen: every fraction of its size is a hundredth of a point.
+struct DrawnMark {
+  Color pixel(double x, double y) { return window.pixel(static_cast<int>(x), static_cast<int>(y)); }
+  /// A place on the bar: so far along it from its middle, and so far below.
+  Color bar(double along, double below) {
+    const double angle = -14 * G_PI / 180;
+    return pixel(62 + along * std::cos(angle) - below * std::sin(angle),
+                 63 + along * std::sin(angle) + below * std::cos(angle));
+  }
+
+  BrandMark& mark = *Gtk::make_managed<BrandMark>(100);
+  TestWindow window{*hstack(0, {&mark, hspacer()}), 300};
+};
+
+MATCHER_P(IsNearly, expected, "") {
+  *result_listener << "(" << arg.red << ", " << arg.green << ", " << arg.blue << ")";
+  const auto same = [](double a, double b) { return std::abs(a - b) < 0.05; };
+  return same(arg.red, expected.red) && same(arg.green, expected.green) && same(arg.blue, expected.blue);
+}
+
+TEST(BrandMark, ItsBarRunsFromBlackThroughBlueToGreenAndRisesToTheRight) {
+  DrawnMark drawn;
+  const Color tile{0.960, 0.960, 0.955};
+  EXPECT_THAT(drawn.bar(0, 0), IsNearly(Color{0.287, 0.604, 1.000}));
+  EXPECT_THAT(drawn.bar(-20, 0), IsNearly(Color{0.2 * 0.287, 0.2 * 0.604, 0.2}));
+  EXPECT_THAT(drawn.bar(20, 0), IsNearly(Color{0.280, 0.842, 0.702})) << "four fifths of the way to green";
+  EXPECT_THAT(drawn.bar(20, -2.5), IsNearly(Color{0.280, 0.842, 0.702})) << "7.5 points thick";
+  EXPECT_THAT(drawn.bar(20, 2.5), IsNearly(Color{0.280, 0.842, 0.702}));
+  EXPECT_THAT(drawn.bar(20, -5.5), IsNearly(tile));
+  EXPECT_THAT(drawn.bar(20, 5.5), IsNearly(tile));
+  EXPECT_THAT(drawn.bar(23, 0), IsNearly(Color{0.279, 0.878, 0.657}));
+  EXPECT_THAT(drawn.bar(26.5, 0), IsNearly(tile)) << "50 points long";
+  EXPECT_THAT(drawn.bar(24.2, 3.3), IsNearly(tile)) << "with round ends";
+}
+
+TEST(BrandMark, ItsLetterIsABlackQALittleBelowTheMiddle) {
+  DrawnMark drawn;
+  const auto layout = drawn.mark.create_pango_layout("Q");
+  layout->set_font_description(Pango::FontDescription("Inter 900 56px"));
+  Pango::Rectangle ink, line;
+  layout->get_pixel_extents(ink, line);
+  const int left = (100 - line.get_width()) / 2 + ink.get_x();
+  const int top = (100 - line.get_height()) / 2 + 3 + ink.get_y();
+  const auto isBlack = [&](int x, int y) {
+    return ::testing::Value(drawn.pixel(x, y), IsColor(Color::black()));
+  };
+  EXPECT_TRUE(isBlack(left + 4, top + ink.get_height() / 2 - 4)) << "its left side";
+  EXPECT_FALSE(isBlack(left - 1, top + ink.get_height() / 2 - 4));
+  EXPECT_TRUE(isBlack(left + ink.get_width() / 2, top + 4)) << "its top";
+  EXPECT_FALSE(isBlack(left + ink.get_width() / 2, top - 1));
+  EXPECT_FALSE(isBlack(left + ink.get_width() / 2, top + ink.get_height() / 2 - 6)) << "its inside";
+}
+
+TEST(BrandMark, ItsTileIsRoundedByAQuarterAndHasALightEdgeAndABlueShadow) {
+  DrawnMark drawn;
+  EXPECT_EQ(lookOf(drawn.mark),
+            "\nshadow blue/0.16 0 10 24, ground control round 24, line white/0.16 round 24\n");
+}
+
+TEST(BrandMark, IsThirtySixPointsLargeUnlessToldOtherwise) {
+  auto* mark = Gtk::make_managed<BrandMark>();
+  TestWindow window(*hstack(0, {mark, hspacer()}), 300);
+  EXPECT_EQ(mark->get_width(), 36);
 }
 
 /// A pill on screen, with the colours that it is drawn in.

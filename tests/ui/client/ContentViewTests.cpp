@@ -8,6 +8,7 @@
 #include "client/QuorvelWebView.h"
 #include "client/ServiceOrigin.h"
 #include "client/WarningBar.h"
+#include "support/Looks.h"
 #include "support/RightToLeft.h"
 #include "support/TextChecks.h"
 #include "support/TextScale.h"
@@ -101,6 +102,131 @@ TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
                               "through the live service.",
                           server.address(""), "/agent.html", "Open externally"));
   EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
+}
+
+TEST_F(ContentViewTest, ItsLookIsTheDrawings) {
+  const auto look = std::string(R"(
+row 0
+gradient 0.028:0.022:0.02 0.006:0.006:0.007 downwards
+column 18
+padded 22 20 0 20
+row 12
+shadow blue/0.16 0 4.2 10.08, ground control round 10.08, line white/0.16 round 10.08
+column 2
+"Quorvel" 16 700 white
+"Desktop agent client" 11 600 secondary
+spacer
+padded 20 0
+ground control round 10
+button
+padded 0 13
+"+ New chat" 14 900 black
+column 8
+padded 20 0
+"Live app" 11 900 muted
+padded 12 0
+ground raised round 10, line white/0.18
+button
+padded 12 10
+row 12
+*message.fill 17 600 green
+column 2
+"Agent workspace" 14 700 white
+"Chats and approvals" 11 600 muted
+spacer
+padded 12 0
+button
+padded 12 10
+row 12
+*point.3.connected.trianglepath.dotted 17 600 muted
+column 2
+"Connectors" 14 700 secondary
+"Apps and access" 11 600 muted
+spacer
+padded 12 0
+button
+padded 12 10
+row 12
+*safari.fill 17 600 muted
+column 2
+"Browser workspace" 14 700 secondary
+"Page context" 11 600 muted
+spacer
+padded 12 0
+button
+padded 12 10
+row 12
+*phone.fill 17 600 muted
+column 2
+"Voice agent" 14 700 secondary
+"Calls and scheduling" 11 600 muted
+spacer
+padded 12 0
+button
+padded 12 10
+row 12
+*creditcard.fill 17 600 muted
+column 2
+"Pricing" 14 700 secondary
+"Plans and billing" 11 600 muted
+spacer
+padded 12 0
+button
+padded 12 10
+row 12
+*questionmark.circle.fill 17 600 muted
+column 2
+"Support" 14 700 secondary
+"Help and contact" 11 600 muted
+spacer
+spacer
+padded 0 20 18 20
+ground raised round 10, line white/0.18
+padded 14
+column 8
+row 8
+"LIVE BACKEND" 11 900 green
+spacer
+ground green capsule, line green/0.18
+padded 9 5
+"WebKit" 11 700 background
+"This app is connected to app.quorvel.example, so sign-in, sessions, billing, connectors, and the agent workspace run through the live service." 11 600 secondary
+ground white/0.115
+column 0
+ground 0.02:0.018:0.018
+padded 14 10
+row 10
+ground white/0.05 round 7, line white/0.058
+button 28 high
+inset 12 0
+*chevron.left 16 400 white/0.28
+ground white/0.05 round 7, line white/0.058
+button 28 high
+inset 12 0
+*chevron.right 16 400 white/0.28
+ground white/0.08 round 7, line white/0.115
+button 28 high
+inset 12 0
+*arrow.clockwise 16 400 white
+ground raised round 10, line white/0.115
+padded 12 8
+row 8
+*lock.fill 13 700 green
+form row 0
+")") + server.address("") +
+                    R"(" 11 600 secondary
+"/agent.html" 11 600 secondary
+ground white/0.08 round 7, line white/0.115
+button 28 high
+inset 12 0
+row 6
+*arrow.up.forward.app 16 400 white
+"Open externally" 13 500 white
+ground black
+)";
+  if (!tests::comesToLook(*view, look)) {
+    EXPECT_EQ(tests::lookOf(*view), look);
+  }
 }
 
 TEST_F(ContentViewTest, InLargeTextNothingIsCutAndNothingOverlaps) {

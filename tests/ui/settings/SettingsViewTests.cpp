@@ -1,5 +1,6 @@
 #include "brand/QuorvelBrand.h"
 #include "settings/SettingsView.h"
+#include "support/Looks.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 #include "support/TextChecks.h"
@@ -157,6 +158,50 @@ TEST_F(SettingsViewTest, TheFocusIsShownAroundTheSwitchAloneAndNotAroundItsConta
     return ::testing::Value(window->pixel(switchBounds.get_x() - 2, middle), IsColor(QuorvelBrand::blue));
   })) << "the theme lets the outline grow";
   EXPECT_THAT(window->pixel(22, middle), IsColor(QuorvelBrand::background));
+}
+
+TEST_F(SettingsViewTest, ItsLookIsTheDrawings) {
+  const std::string look = R"(
+padded 24
+column 24
+column 10
+padded 16 0
+"Workspace" 14 700 white
+shadow black/0.22 0 12 16, ground panel round 10, line white/0.115 round 10
+column 0
+inset 16 10
+row 16
+"Show inspector" 14 400 white
+ground green capsule
+switch
+padded 16 0
+ground white/0.115
+inset 16 10
+row 16
+"Daily command brief" 14 400 white
+ground green capsule
+switch
+column 10
+padded 16 0
+"Approval gates" 14 700 white
+shadow black/0.22 0 12 16, ground panel round 10, line white/0.115 round 10
+column 0
+inset 16 10
+row 16
+"Ad spend changes" 14 400 white
+ground green capsule
+switch
+padded 16 0
+ground white/0.115
+inset 16 10
+row 16
+"Customer-facing messages" 14 400 white
+ground green capsule
+switch
+)";
+  if (!comesToLook(*view, look)) {
+    EXPECT_EQ(lookOf(*view), look);
+  }
 }
 
 TEST_F(SettingsViewTest, InLargeTextNothingIsCutAndNothingOverlaps) {
