@@ -1,8 +1,8 @@
 #include "programs/client/MainWindow.h"
 
 #include "client/ContentView.h"
+#include "commands/PrimaryMenu.h"
 #include "programs/client/CommandMenu.h"
-#include "programs/client/PrimaryMenu.h"
 #include "programs/client/habits.h"
 
 #include <gtkmm/headerbar.h>

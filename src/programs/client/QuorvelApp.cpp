@@ -3,25 +3,30 @@
 #include "brand/StyleSheet.h"
 #include "brand/heldKeys.h"
 #include "client/DesktopBrowserModel.h"
+#include "client/ServiceOrigin.h"
+#include "client/openInSystem.h"
+#include "commands/AboutView.h"
+#include "commands/ShortcutsView.h"
+#include "engine/WebFolders.h"
+#include "engine/engineVersion.h"
 #include "preferences/Preferences.h"
 #include "programs/client/MainWindow.h"
-#include "programs/client/SecondaryWindow.h"
-#include "programs/client/ShortcutsView.h"
 #include "programs/client/habits.h"
 #include "settings/SettingsView.h"
-
-#include <gtkmm/aboutdialog.h>
 
 namespace quorvel {
 namespace {
 
-std::unique_ptr<Gtk::Window> makeAbout() {
-  auto about = std::make_unique<Gtk::AboutDialog>();
-  about->set_program_name("Quorvel");
-  about->set_version(QUORVEL_VERSION);
-  about->set_comments("Desktop agent client");
-  about->set_logo_icon_name(QuorvelApp::identifier);
-  return about;
+About aboutClient() {
+  const auto folders = WebFolders::ofUser();
+  return {.name = "Quorvel",
+          .version = QUORVEL_VERSION,
+          .summary = "Desktop agent client",
+          .icon = QuorvelApp::identifier,
+          .details = {engineVersion() + ", " + toolkitVersion(), "Website: " + std::string(serviceOrigin),
+                      "Sign-in and storage: " + folders.data, "Cache: " + folders.cache,
+                      "Preferences: " + Preferences::standardPath(), "Window size: " + windowSizeFile()},
+          .showWebsite = [] { openInSystem(std::string(serviceOrigin)); }};
 }
 
 } // namespace
@@ -66,15 +71,17 @@ void QuorvelApp::end() {
 
 void QuorvelApp::makeCommands() {
   const auto makeShortcuts = [this] {
-    return std::make_unique<SecondaryWindow>("Keyboard Shortcuts",
-                                             *Gtk::make_managed<ShortcutsView>(*commands_));
+    const std::initializer_list<CommandBlock> blocks{{"Quorvel", commands_->client},
+                                                     {"Program", commands_->program}};
+    return std::make_unique<SecondaryWindow>("Keyboard Shortcuts", *Gtk::make_managed<ShortcutsView>(blocks));
   };
   commands_.emplace(
       *browser_,
-      Commands::Program{.showSettings = [this] { showBeside(settings_, [this] { return makeSettings(); }); },
-                        .showShortcuts = [this, makeShortcuts] { showBeside(shortcuts_, makeShortcuts); },
-                        .showAbout = [this] { showBeside(about_, makeAbout); },
-                        .quit = [this] { end(); }});
+      Commands::Program{
+          .showSettings = [this] { showBesideMain(settings_, [this] { return makeSettings(); }); },
+          .showShortcuts = [this, makeShortcuts] { showBesideMain(shortcuts_, makeShortcuts); },
+          .showAbout = [this] { showBesideMain(about_, [] { return makeAboutWindow(aboutClient()); }); },
+          .quit = [this] { end(); }});
   commands_->addTo(*this);
   addClosingKey(*this);
 }
@@ -84,17 +91,10 @@ std::unique_ptr<Gtk::Window> QuorvelApp::makeSettings() {
   return std::make_unique<SecondaryWindow>("Settings", *Gtk::make_managed<SettingsView>(*preferences_));
 }
 
-void QuorvelApp::showBeside(std::unique_ptr<Gtk::Window>& window,
-                            const std::function<std::unique_ptr<Gtk::Window>()>& make) {
+void QuorvelApp::showBesideMain(std::unique_ptr<Gtk::Window>& window, const MakeWindow& make) {
   if (!window_)
     activate(); // a command came over the message bus before anything else
-  if (!window) {
-    window = make();
-    add_window(*window); // or the program's keys would be dead in it
-    window->set_transient_for(*window_);
-    window->set_hide_on_close(true);
-  }
-  window->present();
+  showBeside(*window_, window, make);
 }
 
 } // namespace quorvel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commands/SecondaryWindow.h"
 #include "programs/client/AppDelegate.h"
 #include "programs/client/commands.h"
 
@@ -32,8 +33,7 @@ class QuorvelApp : public Gtk::Application {
   /// Whatever else is open.
   void end();
   /// Shows a window beside the main one, making it the first time it is asked for.
-  void showBeside(std::unique_ptr<Gtk::Window>& window,
-                  const std::function<std::unique_ptr<Gtk::Window>()>& make);
+  void showBesideMain(std::unique_ptr<Gtk::Window>& window, const MakeWindow& make);
   std::unique_ptr<Gtk::Window> makeSettings();
 
   AppDelegate appDelegate_;

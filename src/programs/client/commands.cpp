@@ -1,15 +1,12 @@
 #include "programs/client/commands.h"
 
 #include "client/DesktopBrowserModel.h"
+#include "commands/programCommands.h"
 
 #include <utility>
 
 namespace quorvel {
 namespace {
-
-std::string fullName(const Command& command) {
-  return std::string("app.") + command.action;
-}
 
 CommandGroup clientCommands(DesktopBrowserModel& browser) {
   const auto open = [&browser](QuorvelRoute route) { return [&browser, route] { browser.load(route); }; };
@@ -25,52 +22,18 @@ CommandGroup clientCommands(DesktopBrowserModel& browser) {
              [&browser] { browser.openExternal(); }}}}};
 }
 
-CommandGroup programCommands(Commands::Program actions) {
-  return {"_Program",
-          {{{"settings", "_Settings…", "<Control>comma", std::move(actions.showSettings)},
-            {"shortcuts", "_Keyboard Shortcuts", "<Control>question", std::move(actions.showShortcuts)},
-            {"about", "_About", "", std::move(actions.showAbout)},
-            {"quit", "_Quit", "<Control>q", std::move(actions.quit)}}}};
+CommandGroup ownCommands(Commands::Program actions) {
+  auto commands = programCommands(
+      {std::move(actions.showShortcuts), std::move(actions.showAbout), std::move(actions.quit)});
+  commands.insert(commands.begin(),
+                  {"settings", "_Settings…", "<Control>comma", std::move(actions.showSettings)});
+  return {"_Program", {std::move(commands)}};
 }
 
 } // namespace
 
-std::string Command::plainTitle() const {
-  std::string plain = title;
-  std::erase(plain, '_');
-  return plain;
-}
-
-Glib::RefPtr<Gio::Menu> CommandGroup::menu() const {
-  auto menu = Gio::Menu::create();
-  for (const auto& section : sections) {
-    auto part = Gio::Menu::create();
-    for (const auto& command : section)
-      part->append(command.title, fullName(command));
-    menu->append_section(part);
-  }
-  return menu;
-}
-
-void CommandGroup::addTo(Gtk::Application& application) const {
-  for (const auto& section : sections)
-    for (const auto& command : section) {
-      application.add_action(command.action, command.perform);
-      if (*command.key)
-        application.set_accel_for_action(fullName(command), command.key);
-    }
-}
-
-void CommandGroup::update(Gtk::Application& application) const {
-  for (const auto& section : sections)
-    for (const auto& command : section)
-      if (const auto action =
-              std::dynamic_pointer_cast<Gio::SimpleAction>(application.lookup_action(command.action)))
-        action->set_enabled(command.isEnabled());
-}
-
 Commands::Commands(DesktopBrowserModel& browser, Program actions)
-    : client(clientCommands(browser)), program(programCommands(std::move(actions))) {}
+    : client(clientCommands(browser)), program(ownCommands(std::move(actions))) {}
 
 void Commands::addTo(Gtk::Application& application) const {
   client.addTo(application);

@@ -2,10 +2,13 @@
 
 #include "brand/StyleSheet.h"
 #include "brand/heldKeys.h"
+#include "commands/AboutView.h"
+#include "commands/PrimaryMenu.h"
+#include "commands/ShortcutsView.h"
+#include "commands/programCommands.h"
 #include "programs/console/ConsoleColumns.h"
 
 #include <gtkmm/headerbar.h>
-#include <gtkmm/window.h>
 #include <string>
 
 namespace quorvel {
@@ -13,6 +16,15 @@ namespace {
 
 /// So wide that the inspector is there and the four figures of the command centre fill one row beside it.
 constexpr int defaultWidth = 1540, defaultHeight = 960;
+
+About aboutConsole() {
+  return {.name = "Quorvel Console",
+          .version = QUORVEL_VERSION,
+          .summary = "Workspace console",
+          .icon = ConsoleApplication::identifier,
+          .details = {toolkitVersion(), "Preferences: " + Preferences::standardPath(),
+                      "The workspace is a sample in memory: nothing else is kept."}};
+}
 
 } // namespace
 
@@ -26,37 +38,64 @@ void ConsoleApplication::on_startup() {
   Gtk::Application::on_startup();
   installStyle();
   letHeldKeysActOnce();
-  addShortcuts();
+  sections_.addTo(*this);
+  program_.addTo(*this);
 }
 
 void ConsoleApplication::on_activate() {
   if (get_windows().empty()) {
     window_ = makeWindow();
     add_window(*window_);
+    // Not by itself: a window beside it may be there still.
+    const auto endWithWindow = [this] {
+      quit();
+      return false;
+    };
+    window_->signal_close_request().connect(endWithWindow, false);
   }
   window_->present();
 }
 
 void ConsoleApplication::on_shutdown() {
-  window_.reset();
+  for (auto* window : {&about_, &shortcuts_, &window_})
+    window->reset();
   Gtk::Application::on_shutdown();
 }
 
-void ConsoleApplication::addShortcuts() {
-  for (const auto section : allCases<WorkspaceSection>()) {
-    const std::string name(rawValue(section));
-    add_action(name, [this, section] { store_.selectedSection = section; });
-    set_accel_for_action("app." + name, std::string("<Control>") + shortcut(section));
-  }
-  add_action("quit", [this] { quit(); });
-  set_accel_for_action("app.quit", "<Control>q");
+CommandGroup ConsoleApplication::sectionCommands() {
+  std::vector<Command> commands;
+  for (const auto section : allCases<WorkspaceSection>())
+    commands.push_back({std::string(rawValue(section)), std::string(title(section)),
+                        std::string("<Control>") + shortcut(section),
+                        [this, section] { store_.selectedSection = section; }});
+  return {"_Section", {commands}};
+}
+
+CommandGroup ConsoleApplication::ownCommands() {
+  const auto makeShortcuts = [this] {
+    const std::initializer_list<CommandBlock> blocks{{"Section", sections_}, {"Program", program_}};
+    return std::make_unique<SecondaryWindow>("Keyboard Shortcuts", *Gtk::make_managed<ShortcutsView>(blocks));
+  };
+  return {
+      "_Program",
+      {programCommands({[this, makeShortcuts] { showBesideMain(shortcuts_, makeShortcuts); },
+                        [this] { showBesideMain(about_, [] { return makeAboutWindow(aboutConsole()); }); },
+                        [this] { quit(); }})}};
+}
+
+void ConsoleApplication::showBesideMain(std::unique_ptr<Gtk::Window>& window, const MakeWindow& make) {
+  if (!window_)
+    activate(); // a command came over the message bus before anything else
+  showBeside(*window_, window, make);
 }
 
 std::unique_ptr<Gtk::Window> ConsoleApplication::makeWindow() {
   auto window = std::make_unique<Gtk::Window>();
   window->set_title("Quorvel Console");
+  window->set_icon_name(identifier);
   auto* header = Gtk::make_managed<Gtk::HeaderBar>();
   header->add_css_class("slim");
+  header->pack_end(*Gtk::make_managed<PrimaryMenu>(program_));
   window->set_titlebar(*header);
   window->set_child(*Gtk::make_managed<ConsoleColumns>(store_, preferences_));
   window->set_default_size(defaultWidth, defaultHeight);

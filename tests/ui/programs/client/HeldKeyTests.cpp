@@ -1,7 +1,7 @@
 #include "programs/client/MainWindow.h"
 
 #include "client/ContentView.h"
-#include "programs/client/PrimaryMenu.h"
+#include "commands/PrimaryMenu.h"
 #include "support/RealInput.h"
 #include "ui/client/ModelTest.h"
 

@@ -2,6 +2,7 @@
 #include "programs/console/ConsoleColumns.h"
 
 #include "brand/QuorvelBrand.h"
+#include "commands/PrimaryMenu.h"
 #include "console/DetailView.h"
 #include "console/InspectorPanel.h"
 #include "console/SidebarView.h"
@@ -195,6 +196,17 @@ class ConsoleApplicationTest : public ::testing::Test {
     });
   }
   Gtk::Window& window() { return *application_->get_windows().front(); }
+  /// Another window beside this one, as soon as it has come; nothing if none does.
+  Gtk::Window* other(const Gtk::Window& one) {
+    const auto found = [&]() -> Gtk::Window* {
+      for (auto* candidate : application_->get_windows())
+        if (candidate != &one && candidate->get_mapped())
+          return candidate;
+      return nullptr;
+    };
+    EXPECT_TRUE(eventually([&] { return found() != nullptr; }));
+    return found();
+  }
 
   Glib::RefPtr<ConsoleApplication> application_ =
       ConsoleApplication::create(Gio::Application::Flags::NON_UNIQUE);
@@ -260,6 +272,52 @@ TEST_F(ConsoleApplicationTest, ClosingTheWindowEndsTheProgram) {
 
 TEST_F(ConsoleApplicationTest, ControlQEndsTheProgram) {
   run([&] { window().activate_action(application_->get_actions_for_accel("<Control>q").front()); });
+}
+
+TEST_F(ConsoleApplicationTest, ThePrimaryMenuHasTheProgramsOwnCommands) {
+  visit([&] {
+    const auto menus = all<PrimaryMenu>(window());
+    ASSERT_EQ(menus.size(), 1U);
+    EXPECT_TRUE(hasAccessibleName(*menus.front(), "Main menu"));
+    menus.front()->popup();
+    drawFrame(window());
+    for (const auto* entry : {"Keyboard Shortcuts", "About", "Quit"})
+      EXPECT_NE(labelled(*menus.front(), entry), nullptr) << entry;
+  });
+}
+
+TEST_F(ConsoleApplicationTest, TheListOfShortcutsNamesEverySectionAndTheProgramsOwnKeys) {
+  visit([&] {
+    auto& main = window();
+    main.activate_action(application_->get_actions_for_accel("<Control>question").front());
+    auto* shortcuts = other(main);
+    ASSERT_NE(shortcuts, nullptr);
+    EXPECT_EQ(shortcuts->get_title(), "Keyboard Shortcuts");
+    for (const auto section : allCases<WorkspaceSection>())
+      EXPECT_NE(labelled(*shortcuts, std::string(title(section))), nullptr) << title(section);
+    EXPECT_NE(labelled(*shortcuts, "Quit"), nullptr);
+  });
+}
+
+TEST_F(ConsoleApplicationTest, AboutNamesTheProgramAndItsVersion) {
+  visit([&] {
+    auto& main = window();
+    application_->activate_action("about");
+    auto* about = other(main);
+    ASSERT_NE(about, nullptr);
+    EXPECT_EQ(about->get_title(), "About Quorvel Console");
+    EXPECT_THAT(texts(*about),
+                Contains(::testing::ContainsRegex("Quorvel Console [0-9]+\\.[0-9]+\\.[0-9]+\nGTK 4\\.")));
+  });
+}
+
+TEST_F(ConsoleApplicationTest, ClosingTheWindowEndsTheProgramWithAnotherOneOpenBesideIt) {
+  run([&] {
+    auto& main = window();
+    application_->activate_action("shortcuts");
+    EXPECT_NE(other(main), nullptr);
+    main.close();
+  });
 }
 
 TEST_F(ConsoleApplicationTest, IsDarkWhateverTheDesktopSays) {

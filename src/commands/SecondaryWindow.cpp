@@ -1,4 +1,4 @@
-#include "programs/client/SecondaryWindow.h"
+#include "commands/SecondaryWindow.h"
 
 #include <gtkmm/shortcutcontroller.h>
 
@@ -13,6 +13,16 @@ SecondaryWindow::SecondaryWindow(const Glib::ustring& title, Gtk::Widget& conten
   keys->add_shortcut(Gtk::Shortcut::create(Gtk::ShortcutTrigger::parse_string("Escape"),
                                            Gtk::NamedAction::create("window.close")));
   add_controller(keys);
+}
+
+void showBeside(Gtk::Window& main, std::unique_ptr<Gtk::Window>& window, const MakeWindow& make) {
+  if (!window) {
+    window = make();
+    main.get_application()->add_window(*window); // or the program's keys would be dead in it
+    window->set_transient_for(main);
+    window->set_hide_on_close(true);
+  }
+  window->present();
 }
 
 } // namespace quorvel

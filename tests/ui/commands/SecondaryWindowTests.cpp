@@ -1,4 +1,4 @@
-#include "programs/client/SecondaryWindow.h"
+#include "commands/SecondaryWindow.h"
 
 #include "preferences/Preferences.h"
 #include "settings/SettingsView.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "programs/client/commands.h"
+#include "commands/CommandGroup.h"
 
 #include <gtkmm/menubutton.h>
 

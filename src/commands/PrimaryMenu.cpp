@@ -1,4 +1,4 @@
-#include "programs/client/PrimaryMenu.h"
+#include "commands/PrimaryMenu.h"
 
 #include "brand/buttons.h"
 

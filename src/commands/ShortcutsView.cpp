@@ -1,4 +1,4 @@
-#include "programs/client/ShortcutsView.h"
+#include "commands/ShortcutsView.h"
 
 #include "brand/text.h"
 
@@ -16,15 +16,17 @@ Gtk::Widget* block(const Glib::ustring& heading, const CommandGroup& commands) {
   auto* rows = vstack(10, {text(heading, {TextStyle::caption, FontWeight::black, TextColor::muted})});
   for (const auto& section : commands.sections)
     for (const auto& command : section)
-      if (*command.key)
+      if (!command.key.empty())
         rows->add({row(command)});
   return stretched(rows);
 }
 
 } // namespace
 
-ShortcutsView::ShortcutsView(const Commands& commands) : VStack(24) {
-  padded(24, this)->add({block("Quorvel", commands.client), block("Program", commands.program)});
+ShortcutsView::ShortcutsView(std::initializer_list<CommandBlock> blocks) : VStack(24) {
+  padded(24, this);
+  for (const auto& [heading, commands] : blocks)
+    add({block(heading, commands)});
 }
 
 } // namespace quorvel

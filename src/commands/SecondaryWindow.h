@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <gtkmm/window.h>
+#include <memory>
 
 namespace quorvel {
 
@@ -11,5 +13,10 @@ class SecondaryWindow : public Gtk::Window {
   /// Takes over the content, a managed widget.
   SecondaryWindow(const Glib::ustring& title, Gtk::Widget& content);
 };
+
+using MakeWindow = std::function<std::unique_ptr<Gtk::Window>()>;
+
+/// Shows a window beside an application's main one, making it the first time it is asked for.
+void showBeside(Gtk::Window& main, std::unique_ptr<Gtk::Window>& window, const MakeWindow& make);
 
 } // namespace quorvel

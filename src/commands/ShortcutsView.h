@@ -1,0 +1,20 @@
+#pragma once
+
+#include "commands/CommandGroup.h"
+#include "layout/stacks.h"
+
+namespace quorvel {
+
+/// Commands below a heading.
+struct CommandBlock {
+  const char* heading;
+  const CommandGroup& commands;
+};
+
+/// Every command that has a key, in the order of the menus.
+class ShortcutsView : public VStack {
+ public:
+  ShortcutsView(std::initializer_list<CommandBlock> blocks);
+};
+
+} // namespace quorvel
