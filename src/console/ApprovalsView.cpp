@@ -98,7 +98,7 @@ void ApprovalRow::showSteps(const std::vector<std::string>& steps) {
     steps_->add({stepChip(step)});
 }
 
-using ApprovalRows = RecordRows<VStack, ApprovalItem, ApprovalRow>;
+using ApprovalRows = LazyRecordRows<ApprovalItem, ApprovalRow>;
 
 /// The gates. Where the one with the focus is gone, that which now stands in its place takes the focus, or
 /// the last.
@@ -139,7 +139,7 @@ ApprovalsView::ApprovalsView(WorkspaceStore& store) : VStack(22) {
   add({Gtk::make_managed<SectionHeader>("Human gates", "Important actions wait here",
                                         "Finance, ad spend, bookings, customer-facing messages, and "
                                         "connected-app changes are separated from normal drafting."),
-       Gtk::make_managed<Gates>(store, allOf(store.approvals), makeRow, 12)});
+       Gtk::make_managed<Gates>(store, store.approvals, LazyGrid::Form{.spacing = 12}, makeRow)});
 }
 
 } // namespace quorvel

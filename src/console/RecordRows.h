@@ -10,17 +10,12 @@
 
 namespace quorvel {
 
-/// One of the store's lists, or its first few records.
+/// The first few records of one of the store's lists.
 template <Record Item>
 struct ListPart {
   const Published<RecordList<Item>>& list;
   std::size_t count;
 };
-
-template <Record Item>
-ListPart<Item> allOf(const Published<RecordList<Item>>& list) {
-  return {list, static_cast<std::size_t>(-1)};
-}
 
 template <Record Item>
 ListPart<Item> firstOf(const Published<RecordList<Item>>& list, std::size_t count) {

@@ -7,7 +7,10 @@ namespace quorvel {
 namespace {
 
 using namespace quorvel::tests;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::Gt;
+using ::testing::Lt;
 
 const std::string replies = "Send three delayed order replies";
 const std::string adSpend = "Shift $240 from broad audience to retargeting";
@@ -218,6 +221,48 @@ TEST_F(ApprovalsTest, WhereTheLastGateIsGoneTheOneBeforeItHasTheFocus) {
   EXPECT_EQ(focused(), &row("Gate a"));
   show({});
   EXPECT_EQ(focused(), nullptr);
+}
+
+/// A thousand gates in a scrolled screen.
+class ManyGatesTest : public ::testing::Test {
+ protected:
+  ManyGatesTest() {
+    RecordList<ApprovalItem> gates;
+    for (int i = 0; i < 1'000; ++i)
+      gates.push_back(gate(std::to_string(i), ApprovalState::waiting));
+    store_.approvals = std::move(gates);
+    scroller_.set_child(*Gtk::make_managed<ApprovalsView>(store_));
+    drawFrame(scroller_);
+  }
+
+  std::size_t gateCount() { return all<StatusPill>(scroller_).size() / 2; }
+  void scrollTo(double part) {
+    const auto scroll = scroller_.get_vadjustment();
+    scroll->set_value(part * scroll->get_upper());
+    drawFrame(scroller_);
+  }
+
+  WorkspaceStore store_;
+  Gtk::ScrolledWindow scroller_;
+  TestWindow window_{scroller_, 852, 700};
+};
+
+TEST_F(ManyGatesTest, OnlyThoseNearSightExist) {
+  EXPECT_THAT(gateCount(), AllOf(Gt(3U), Lt(30U)));
+  scrollTo(1);
+  EXPECT_TRUE(labelled(scroller_, "Gate 999"));
+  EXPECT_LT(gateCount(), 30U);
+}
+
+TEST_F(ManyGatesTest, TheOneWithTheFocusStaysWhileItIsScrolledAwayAndIsTheOneDecided) {
+  auto* approve = all<Gtk::Button>(scroller_).at(1);
+  approve->grab_focus();
+  scrollTo(0.5);
+  EXPECT_EQ(window_.get_focus(), approve);
+  click(*approve);
+  drawFrame(scroller_);
+  EXPECT_EQ(store_.approvals->at(0).state, ApprovalState::approved);
+  EXPECT_EQ(store_.approvals->at(1).state, ApprovalState::waiting);
 }
 
 } // namespace
