@@ -20,9 +20,15 @@ void xdotool(std::vector<std::string> arguments) {
     throw std::runtime_error("xdotool failed");
 }
 
+// The toolkit means to leave X11 behind (GTK 4.18 says so first); real keys and pointers need it here.
+G_GNUC_BEGIN_IGNORE_DEPRECATIONS
 ::Display* xDisplay() {
   return gdk_x11_display_get_xdisplay(Gdk::Display::get_default()->gobj());
 }
+::Window xWindow(const Gtk::Native& native) {
+  return gdk_x11_surface_get_xid(const_cast<GdkSurface*>(native.get_surface()->gobj()));
+}
+G_GNUC_END_IGNORE_DEPRECATIONS
 
 /// Keys that are held repeat themselves early and fast while this exists.
 class QuickRepeat {
@@ -49,9 +55,8 @@ void pointAt(Gtk::Widget& widget) {
   widget.translate_coordinates(dynamic_cast<Gtk::Widget&>(*native), widget.get_width() / 2.0,
                                widget.get_height() / 2.0, x, y);
   native->get_surface_transform(surfaceX, surfaceY);
-  const auto window = gdk_x11_surface_get_xid(native->get_surface()->gobj());
-  xdotool({"mousemove", "--window", std::to_string(window), std::to_string(static_cast<int>(x + surfaceX)),
-           std::to_string(static_cast<int>(y + surfaceY))});
+  xdotool({"mousemove", "--window", std::to_string(xWindow(*native)),
+           std::to_string(static_cast<int>(x + surfaceX)), std::to_string(static_cast<int>(y + surfaceY))});
 }
 
 void clickOn(Gtk::Widget& widget) {
