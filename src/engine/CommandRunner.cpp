@@ -1,6 +1,7 @@
 #include "engine/CommandRunner.h"
 
 #include <glibmm/main.h>
+#include <memory>
 #include <utility>
 
 namespace quorvel {
@@ -21,8 +22,8 @@ bool hasFragment(const std::string& address) {
 
 } // namespace
 
-CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, std::function<void()> onLoad)
-    : view_(view), onLoad_(std::move(onLoad)),
+CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner)
+    : view_(view), owner_(std::move(owner)),
       command_({std::move(startTimer), [this] { ask(); }, [this] { insist(); }}) {
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, CommandRunner* self) { self->noteEvent(event); };
@@ -54,7 +55,7 @@ void CommandRunner::loadForPage(const std::string& address) {
 
 void CommandRunner::tellToLoad() {
   webkit_web_view_load_uri(view_, requested_.c_str());
-  onLoad_();
+  owner_.onLoad();
 }
 
 void CommandRunner::reload() {
@@ -85,21 +86,24 @@ void CommandRunner::carryOut(Wish wish) {
   wish_ = std::move(wish);
   command_.end();
   const auto onScreen = addressOf(view_);
+  const bool wasLoading = webkit_web_view_is_loading(view_);
   if (!webkit_web_view_get_is_web_process_responsive(view_)) {
     insist();
     return;
   }
   wish_.carryOut();
-  expected_ = addressOf(view_);
+  isRedirected_ = false;
+  const bool isInHistory = wish_.type == WEBKIT_NAVIGATION_TYPE_BACK_FORWARD;
+  expected_ = isInHistory ? webkit_back_forward_list_item_get_uri(target_.get()) : addressOf(view_);
   staysInDocument_ = hasFragment(expected_) && withoutFragment(expected_) == withoutFragment(onScreen);
-  // Where there is no page, none can be in the way.
-  if (!onScreen.empty())
+  // Where there is no page, and none on its way, none can be in the way.
+  if (!onScreen.empty() || wasLoading)
     command_.begin();
 }
 
 bool CommandRunner::claims(WebKitNavigationAction* action) {
   if (webkit_navigation_action_is_redirect(action))
-    return true;
+    return isRedirected_ = true;
   const char* address = webkit_uri_request_get_uri(webkit_navigation_action_get_request(action));
   const bool isOurs = webkit_navigation_action_get_navigation_type(action) == wish_.type &&
                       (wish_.type != WEBKIT_NAVIGATION_TYPE_OTHER || expected_ == address);
@@ -115,19 +119,23 @@ void CommandRunner::ask() {
     g_autoptr(GError) error = nullptr;
     g_autoptr(JSCValue) value =
         webkit_web_view_evaluate_javascript_finish(WEBKIT_WEB_VIEW(view), result, &error);
+    const std::unique_ptr<char, decltype(&g_free)> place(value ? jsc_value_to_string(value) : nullptr,
+                                                         g_free);
     if (!g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED))
-      static_cast<CommandRunner*>(self)->noteAnswer();
+      static_cast<CommandRunner*>(self)->noteAnswer(place ? place.get() : "");
   };
   g_cancellable_cancel(question_.get());
   question_.reset(g_cancellable_new());
-  webkit_web_view_evaluate_javascript(view_, "0", -1, "quorvel", nullptr, question_.get(), onAnswer, this);
+  webkit_web_view_evaluate_javascript(view_, "location.href", -1, "quorvel", nullptr, question_.get(),
+                                      onAnswer, this);
 }
 
-void CommandRunner::noteAnswer() {
+void CommandRunner::noteAnswer(const std::string& place) {
   auto* history = webkit_web_view_get_back_forward_list(view_);
   // Between two states of one document no load is needed.
   const bool isThere = wish_.type == WEBKIT_NAVIGATION_TYPE_BACK_FORWARD &&
-                       webkit_back_forward_list_get_current_item(history) == target_.get();
+                       webkit_back_forward_list_get_current_item(history) == target_.get() &&
+                       place == expected_;
   command_.answered(webkit_web_view_is_loading(view_), isThere);
 }
 
@@ -145,12 +153,19 @@ void CommandRunner::startAfresh() {
 void CommandRunner::noteEvent(WebKitLoadEvent event) {
   if (event == WEBKIT_LOAD_STARTED)
     command_.loadStarted();
-  if (event == WEBKIT_LOAD_COMMITTED)
+  // It may also be a load of the page's that was let go before.
+  if (event == WEBKIT_LOAD_COMMITTED && hasArrived())
     command_.loadCommitted();
 }
 
+bool CommandRunner::hasArrived() const {
+  return isRedirected_ || expected_.empty() || addressOf(view_) == expected_;
+}
+
 void CommandRunner::noteFailure(const GError* error) {
-  if (g_error_matches(error, WEBKIT_NETWORK_ERROR, WEBKIT_NETWORK_ERROR_CANCELLED))
+  const bool isBrokenOff = g_error_matches(error, WEBKIT_NETWORK_ERROR, WEBKIT_NETWORK_ERROR_CANCELLED);
+  // The page's menu has a way to stop it.
+  if (isBrokenOff && !owner_.isInPage())
     command_.loadBrokenOff();
   else
     command_.loadFailed();

@@ -13,8 +13,11 @@ namespace quorvel {
 /// engine. The view has to outlive it.
 class CommandRunner : public sigc::trackable {
  public:
-  /// `onLoad` is called each time the view has just been told to load an address.
-  CommandRunner(WebKitWebView* view, TimerFunction startTimer, std::function<void()> onLoad);
+  struct Owner {
+    std::function<void()> onLoad;   ///< the view has just been told to load an address
+    std::function<bool()> isInPage; ///< the owner has turned to the page since the last command
+  };
+  CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner);
   ~CommandRunner();
   CommandRunner(const CommandRunner&) = delete;
   CommandRunner& operator=(const CommandRunner&) = delete;
@@ -46,20 +49,23 @@ class CommandRunner : public sigc::trackable {
   void carryOut(Wish wish);
   void goTo(WebKitBackForwardListItem* item);
   void ask();
-  void noteAnswer();
+  /// `place` is where the page says it is.
+  void noteAnswer(const std::string& place);
   void insist();
   void startAfresh();
   void noteEvent(WebKitLoadEvent event);
+  bool hasArrived() const;
   void noteFailure(const GError* error);
 
   void tellToLoad();
 
   WebKitWebView* view_;
-  std::function<void()> onLoad_;
+  Owner owner_;
   std::string requested_;
   Wish wish_;
-  std::string expected_; // the address that the wish leads to, as the engine writes it
+  std::string expected_; // the address that the wish leads to, as the engine writes it; empty if not known
   bool staysInDocument_ = false;
+  bool isRedirected_ = false;
   GObjectPointer<WebKitBackForwardListItem> target_; // in the history
   OwnersCommand command_;
   GObjectPointer<GCancellable> question_{g_cancellable_new()};

@@ -25,7 +25,8 @@ class WebView::Engine {
  public:
   Engine(const WebFolders& folders, TimerFunction startTimer, Owner owner)
       : owner_(std::move(owner)), session_(folders), view_(makeView(session_.get())),
-        sandbox_(owner_.onUnconfined), commands_(view(), startTimer, [this] { watchdog_.begin(); }),
+        sandbox_(owner_.onUnconfined),
+        commands_(view(), startTimer, {[this] { watchdog_.begin(); }, [this] { return isOwnerInPage_; }}),
         watchdog_(view(), std::move(startTimer), {[this] { commands_.giveUp(); }, owner_.onChange}),
         gestures_(view(), [this] { noteGesture(); }) {
     watchState();

@@ -425,7 +425,7 @@ TEST_F(ContentViewTest, ASpinnerFloatsAtTheTopCentreOfThePageWhileItLoadsAndOnly
   EXPECT_EQ(place.get_y(), page.get_y() + 10);
   EXPECT_NEAR(place.get_x() + place.get_width() / 2.0, page.get_x() + page.get_width() / 2.0, 1);
 
-  webkit_web_view_stop_loading(webView());
+  timer.letOff();
   EXPECT_TRUE(tests::eventually([&] { return !spinner.get_mapped(); }));
   EXPECT_FALSE(spinner.get_spinning());
 }

@@ -102,5 +102,25 @@ TEST_F(PageFloodTest, ARedirectThatAClickBeganCountsAsTheClick) {
   EXPECT_TRUE(tests::eventually([&] { return opened; }, ElementsAre("tel:1", "mailto:a@b.example")));
 }
 
+TEST_F(PageFloodTest, WhatTheOwnerStopsInThePagesMenuStaysStopped) {
+  show("/agent.html");
+  server.silence("/silent.html");
+  model->load(server.address("/silent.html"));
+  ASSERT_TRUE(tests::eventually([&] { return server.count("/silent.html") > 0 && *model->isLoading; }));
+  settle();
+  bool isPressed = false;
+  auto press = Gtk::GestureClick::create();
+  press->signal_pressed().connect([&](int, double, double) { isPressed = true; });
+  press->set_propagation_phase(Gtk::PropagationPhase::CAPTURE);
+  window->add_controller(press);
+  tests::clickOn(model->webView().widget());
+  ASSERT_TRUE(tests::eventually([&] { return isPressed; }));
+  settle();
+  webkit_web_view_stop_loading(webView()); // as the menu does
+  waitForRest();
+  EXPECT_EQ(server.count("/silent.html"), 1);
+  EXPECT_EQ(*model->currentURLString, server.address("/agent.html"));
+}
+
 } // namespace
 } // namespace quorvel
