@@ -4,8 +4,10 @@
 #include "client/DesktopBrowserModel.h"
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
+#include "client/PageDialogView.h"
 #include "client/QuorvelWebView.h"
 #include "client/WarningBar.h"
+#include "client/displayedAddress.h"
 #include "layout/Frame.h"
 #include "observation/observe.h"
 
@@ -31,10 +33,11 @@ Gtk::Spinner* loadingSpinner() {
   return spinner;
 }
 
-Gtk::Widget* pageArea(DesktopBrowserModel& browser, Gtk::Spinner* spinner) {
+Gtk::Widget* pageArea(DesktopBrowserModel& browser, Gtk::Widget* dialog, Gtk::Spinner* spinner) {
   auto* area = Gtk::make_managed<Gtk::Overlay>();
   area->add_css_class("client-page");
   area->set_child(*Gtk::make_managed<QuorvelWebView>(browser));
+  area->add_overlay(*dialog);
   area->add_overlay(*spinner);
   return tall(stretched(area));
 }
@@ -42,20 +45,23 @@ Gtk::Widget* pageArea(DesktopBrowserModel& browser, Gtk::Spinner* spinner) {
 } // namespace
 
 ContentView::ContentView(DesktopBrowserModel& browser)
-    : HStack(0), browser_(browser), spinner_(loadingSpinner()), warning_(Gtk::make_managed<WarningBar>()) {
+    : HStack(0), browser_(browser), spinner_(loadingSpinner()), warning_(Gtk::make_managed<WarningBar>()),
+      dialog_(Gtk::make_managed<PageDialogView>(
+          [&browser](const DialogAnswer& answer) { browser.answer(answer); })) {
   add_css_class("client-window");
   set_size_request(minimumWidth, minimumHeight);
   auto* sidebar =
       Gtk::make_managed<Frame>(Frame::Size{.width = 306}, *Gtk::make_managed<DesktopClientSidebar>(browser));
   auto* line = Gtk::make_managed<Gtk::Separator>(Gtk::Orientation::VERTICAL);
-  auto* page =
-      vstack(0, {Gtk::make_managed<DesktopClientToolbar>(browser), warning_, pageArea(browser, spinner_)});
+  auto* page = vstack(
+      0, {Gtk::make_managed<DesktopClientToolbar>(browser), warning_, pageArea(browser, dialog_, spinner_)});
   add({sidebar, tall(line), page});
   observe(browser, *this, &ContentView::refresh);
 }
 
 void ContentView::refresh() {
   warning_->show(*browser_.warning);
+  dialog_->show(browser_.dialog, displayedAddress(*browser_.currentURLString).origin);
   spinner_->set_visible(browser_.isLoading);
   spinner_->set_spinning(browser_.isLoading);
 }

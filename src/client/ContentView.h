@@ -7,6 +7,7 @@
 namespace quorvel {
 
 class DesktopBrowserModel;
+class PageDialogView;
 class WarningBar;
 
 /// The content of the client's window: the sidebar, and the toolbar above the page. It holds no state;
@@ -26,6 +27,7 @@ class ContentView : public HStack {
   DesktopBrowserModel& browser_;
   Gtk::Spinner* spinner_;
   WarningBar* warning_;
+  PageDialogView* dialog_;
 };
 
 } // namespace quorvel

@@ -17,6 +17,7 @@ WebView::Owner DesktopBrowserModel::viewOwner() {
   return {.onChange = [this] { updateState(); },
           .openInSystem = openInSystem_,
           .openWindow = [this](const std::string& address) { load(address); },
+          .onDialog = [this](const std::optional<PageDialog>& asked) { dialog = asked; },
           .onUnconfined = [this](const std::string& text) { warning = text; }};
 }
 
@@ -49,6 +50,10 @@ void DesktopBrowserModel::openExternal() {
 bool DesktopBrowserModel::isShowing(QuorvelRoute route) const {
   const auto address = webView_.address();
   return matches(route, address.empty() ? *currentURLString : address);
+}
+
+void DesktopBrowserModel::answer(const DialogAnswer& answer) {
+  webView_.answer(answer);
 }
 
 void DesktopBrowserModel::updateState() {

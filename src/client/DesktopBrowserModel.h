@@ -39,6 +39,8 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   Published<std::string> title{*this, "Quorvel"};
   /// What the owner has to know of the page's safety; empty where all is well.
   Published<std::string> warning{*this, ""};
+  /// What the page wants to have said or asked before it goes on.
+  Published<std::optional<PageDialog>> dialog{*this, std::nullopt};
 
   void load(QuorvelRoute route);
   void load(const std::string& address);
@@ -48,6 +50,8 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   /// Opens the view's present address, or the agent's when there is none, in the user's default browser.
   void openExternal();
   bool isShowing(QuorvelRoute route) const;
+  /// Answers the page's dialog; without one nothing happens.
+  void answer(const DialogAnswer& answer);
 
   /// The one view, for a host to place; it stays the model's.
   WebView& webView() { return webView_; }

@@ -4,6 +4,7 @@
 #include "engine/LoadWatchdog.h"
 #include "engine/NavigationPolicy.h"
 #include "engine/OncePerGesture.h"
+#include "engine/PageDialogs.h"
 #include "engine/PageSandbox.h"
 #include "engine/UserGestures.h"
 #include "engine/WebSession.h"
@@ -28,7 +29,8 @@ class WebView::Engine {
         sandbox_(owner_.onUnconfined),
         commands_(view(), startTimer, {[this] { watchdog_.begin(); }, [this] { return isOwnerInPage_; }}),
         watchdog_(view(), std::move(startTimer), {[this] { commands_.giveUp(); }, owner_.onChange}),
-        gestures_(view(), [this] { noteGesture(); }) {
+        gestures_(view(), [this] { noteGesture(); }),
+        dialogs_(view(), {owner_.onDialog, [this] { return commands_.isUnderWay(); }}) {
     watchState();
     watchNavigation();
   }
@@ -45,11 +47,14 @@ class WebView::Engine {
   CommandRunner& commands() {
     isOwnerInPage_ = false;
     launches_.renew();
+    dialogs_.dismiss();
+    dialogs_.startAfresh();
     return commands_;
   }
   void load(const std::string& address) {
     isAskedByPage_ ? commands_.loadForPage(address) : commands().load(address);
   }
+  void answer(const DialogAnswer& answer) { dialogs_.answer(answer); }
   bool isLoading() const { return webkit_web_view_is_loading(view()) && !watchdog_.hasGivenUp(); }
 
  private:
@@ -70,7 +75,9 @@ class WebView::Engine {
   CommandRunner commands_;
   LoadWatchdog watchdog_;
   UserGestures gestures_;
-  OncePerGesture launches_;    // of mail and telephone programs
+  PageDialogs dialogs_;
+  OncePerGesture launches_; // of mail and telephone programs
+  OncePerGesture prints_;
   bool isOwnerInPage_ = false; // rather than at the last command
   bool isByGesture_ = false;   // the navigation under way
   bool isAskedByPage_ = false; // for what the owner of the view is told at this moment
@@ -95,13 +102,16 @@ void WebView::Engine::watchState() {
 void WebView::Engine::noteGesture() {
   isOwnerInPage_ = true;
   launches_.renew();
+  prints_.renew();
 }
 
 void WebView::Engine::noteEvent(WebKitLoadEvent event) {
   // The first word of a page: its process is there, and nothing of it is on the screen yet.
   sandbox_.look();
-  if (event == WEBKIT_LOAD_COMMITTED && std::exchange(isByGesture_, false))
+  if (event == WEBKIT_LOAD_COMMITTED && std::exchange(isByGesture_, false)) {
     launches_.renew();
+    dialogs_.startAfresh();
+  }
 }
 
 void WebView::Engine::watchNavigation() {
@@ -113,6 +123,10 @@ void WebView::Engine::watchNavigation() {
     return nullptr;
   };
   g_signal_connect(view(), "create", G_CALLBACK(onWindow), this);
+  const auto onPrint = +[](WebKitWebView*, WebKitPrintOperation*, Engine* self) -> gboolean {
+    return !self->prints_.take(); // what is not dropped here the engine asks the owner about
+  };
+  g_signal_connect(view(), "print", G_CALLBACK(onPrint), this);
 }
 
 /// Until the owner has what he has asked for; unless he has turned to the page since, and wants this.
@@ -171,6 +185,10 @@ WebView::~WebView() = default;
 
 void WebView::load(const std::string& address) {
   engine_->load(address);
+}
+
+void WebView::answer(const DialogAnswer& answer) {
+  engine_->answer(answer);
 }
 
 void WebView::reload() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/PageDialog.h"
 #include "engine/StallTimer.h"
 #include "engine/WebFolders.h"
 
@@ -29,6 +30,8 @@ class WebView {
     std::function<void(const std::string& address)> openInSystem = [](const std::string&) {};
     /// The page asks for a window. There is none but this one's.
     std::function<void(const std::string& address)> openWindow = [](const std::string&) {};
+    /// The page's dialog that is to be shown, or that there is none any more.
+    std::function<void(const std::optional<PageDialog>&)> onDialog = [](const auto&) {};
     /// Pages are not confined, for reasons given in a sentence or two; said once at the most.
     std::function<void(const std::string& warning)> onUnconfined = [](const std::string&) {};
   };
@@ -42,6 +45,9 @@ class WebView {
   void reload();
   void goBack();
   void goForward();
+
+  /// Answers the dialog that is shown.
+  void answer(const DialogAnswer& answer);
 
   bool canGoBack() const;
   bool canGoForward() const;

@@ -42,23 +42,6 @@ class HostilePageTest : public ModelTest {
     })) << *model->currentURLString
         << ", " << *model->title;
   }
-  /// Time that runs twenty times as fast.
-  void spendTime() {
-    for (auto& [delay, watch] : watches_) {
-      if (!timer.isRunning(delay) || watch.start != timer.starts(delay))
-        watch = {timer.starts(delay), Clock::now()};
-      else if (Clock::now() - watch.startedAt > delay / 20)
-        timer.letOff(delay);
-    }
-  }
-
- private:
-  using Clock = std::chrono::steady_clock;
-  struct Watch {
-    int start = 0;
-    Clock::time_point startedAt;
-  };
-  std::map<ManualTimer::Delay, Watch> watches_{{OwnersCommand::interval, {}}, {OwnersCommand::patience, {}}};
 };
 
 TEST_F(HostilePageTest, ReloadBringsAHangingPageBack) {

@@ -67,4 +67,14 @@ void ModelTest::settle() {
     ;
 }
 
+void ModelTest::spendTime() {
+  using Clock = std::chrono::steady_clock;
+  for (auto& [delay, watch] : watches_) {
+    if (!timer.isRunning(delay) || watch.start != timer.starts(delay))
+      watch = {timer.starts(delay), Clock::now()};
+    else if (Clock::now() - watch.startedAt > delay / 20)
+      timer.letOff(delay);
+  }
+}
+
 } // namespace quorvel

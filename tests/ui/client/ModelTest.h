@@ -1,6 +1,7 @@
 #pragma once
 
 #include "client/DesktopBrowserModel.h"
+#include "engine/OwnersCommand.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 #include "ui/client/LoopbackServer.h"
@@ -49,6 +50,8 @@ class ModelTest : public ::testing::Test {
   void runScript(const std::string& script);
   /// The engine's own view behind the model's.
   WebKitWebView* webView() const { return WEBKIT_WEB_VIEW(model->webView().widget().gobj()); }
+  /// Lets the time of the owner's commands run, twenty times as fast.
+  void spendTime();
   /// Lets everything that is under way in the page and in the main loop come to an end.
   void settle();
 
@@ -61,6 +64,11 @@ class ModelTest : public ::testing::Test {
   std::unique_ptr<DesktopBrowserModel> model;
 
  private:
+  struct Watch {
+    int start = 0;
+    std::chrono::steady_clock::time_point startedAt;
+  };
+  std::map<ManualTimer::Delay, Watch> watches_{{OwnersCommand::interval, {}}, {OwnersCommand::patience, {}}};
   std::string document_; // the address of the document on screen
 };
 
