@@ -1,6 +1,7 @@
 #include "engine/makeView.h"
 
 #include "engine/historyKeys.h"
+#include "engine/permissions.h"
 #include "engine/swipes.h"
 
 #include <string>
@@ -33,6 +34,7 @@ GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   const auto settings = makeSettings();
   gpointer view =
       g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session, "settings", settings.get(), nullptr);
+  refusePermissions(WEBKIT_WEB_VIEW(view));
   allowSwipes(WEBKIT_WEB_VIEW(view));
   keepTabMoving(WEBKIT_WEB_VIEW(view));
   goThroughHistoryByKey(WEBKIT_WEB_VIEW(view));
