@@ -1,9 +1,8 @@
 #include "engine/WebSession.h"
 
-#include "engine/downloads.h"
-
 #include <glib/gstdio.h>
 #include <glibmm/miscutils.h>
+#include <utility>
 
 namespace quorvel {
 namespace {
@@ -37,8 +36,9 @@ GObjectPointer<WebKitNetworkSession> makeSession(const WebFolders& folders) {
 
 } // namespace
 
-WebSession::WebSession(const WebFolders& folders) : session_(makeSession(folders)) {
-  saveUnderFreeNames(session_.get());
-}
+WebSession::WebSession(const WebFolders& folders, std::function<bool()> mayDownload)
+    : session_(makeSession(folders)),
+      downloads_(session_.get(), Glib::build_filename(folders.data, "downloads-under-way"),
+                 std::move(mayDownload)) {}
 
 } // namespace quorvel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/DownloadKeeper.h"
 #include "engine/GObjectPointer.h"
 #include "engine/WebFolders.h"
 
@@ -14,12 +15,14 @@ namespace quorvel {
 /// with the program.
 class WebSession {
  public:
-  explicit WebSession(const WebFolders& folders);
+  /// A page's download starts if `mayDownload` says so.
+  WebSession(const WebFolders& folders, std::function<bool()> mayDownload);
 
   WebKitNetworkSession* get() const { return session_.get(); }
 
  private:
   GObjectPointer<WebKitNetworkSession> session_;
+  DownloadKeeper downloads_;
 };
 
 } // namespace quorvel

@@ -25,8 +25,8 @@ std::string textOrNothing(const char* text) {
 class WebView::Engine {
  public:
   Engine(const WebFolders& folders, TimerFunction startTimer, Owner owner)
-      : owner_(std::move(owner)), session_(folders), view_(makeView(session_.get())),
-        sandbox_(owner_.onUnconfined),
+      : owner_(std::move(owner)), session_(folders, [this] { return downloads_.take(); }),
+        view_(makeView(session_.get())), sandbox_(owner_.onUnconfined),
         commands_(view(), startTimer, {[this] { watchdog_.begin(); }, [this] { return isOwnerInPage_; }}),
         watchdog_(view(), std::move(startTimer), {[this] { commands_.giveUp(); }, owner_.onChange}),
         gestures_(view(), [this] { noteGesture(); }),
@@ -46,7 +46,7 @@ class WebView::Engine {
   /// For what the owner asks for now.
   CommandRunner& commands() {
     isOwnerInPage_ = false;
-    launches_.renew();
+    renew();
     dialogs_.dismiss();
     dialogs_.startAfresh();
     return commands_;
@@ -60,6 +60,7 @@ class WebView::Engine {
  private:
   void watchState();
   void watchNavigation();
+  void renew();
   void noteGesture();
   void noteEvent(WebKitLoadEvent event);
   bool isInTheWay(WebKitNavigationAction* action);
@@ -77,6 +78,7 @@ class WebView::Engine {
   UserGestures gestures_;
   PageDialogs dialogs_;
   OncePerGesture launches_; // of mail and telephone programs
+  OncePerGesture downloads_;
   OncePerGesture prints_;
   bool isOwnerInPage_ = false; // rather than at the last command
   bool isByGesture_ = false;   // the navigation under way
@@ -99,9 +101,15 @@ void WebView::Engine::watchState() {
   g_signal_connect_swapped(view(), "load-failed", G_CALLBACK(onFailure), this);
 }
 
+/// What a page may do once for each time that its owner turns to it.
+void WebView::Engine::renew() {
+  launches_.renew();
+  downloads_.renew();
+}
+
 void WebView::Engine::noteGesture() {
   isOwnerInPage_ = true;
-  launches_.renew();
+  renew();
   prints_.renew();
 }
 
@@ -109,7 +117,7 @@ void WebView::Engine::noteEvent(WebKitLoadEvent event) {
   // The first word of a page: its process is there, and nothing of it is on the screen yet.
   sandbox_.look();
   if (event == WEBKIT_LOAD_COMMITTED && std::exchange(isByGesture_, false)) {
-    launches_.renew();
+    renew();
     dialogs_.startAfresh();
   }
 }

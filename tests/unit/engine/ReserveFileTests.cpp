@@ -1,4 +1,4 @@
-#include "engine/downloads.h"
+#include "engine/reserveFile.h"
 #include "support/TemporaryFolder.h"
 
 #include <filesystem>
@@ -40,6 +40,36 @@ TEST_F(ReserveFileTest, ANameCannotLeaveTheFolder) {
 TEST_F(ReserveFileTest, ANameOfNothingButFoldersBecomesDownload) {
   EXPECT_EQ(reserved("../.."), "download");
   EXPECT_EQ(reserved(""), "download (1)");
+}
+
+TEST_F(ReserveFileTest, ANameHidesNothing) {
+  EXPECT_EQ(safeFileName(".bash_profile"), "bash_profile");
+  EXPECT_EQ(safeFileName("... .config"), "config");
+  EXPECT_EQ(safeFileName("in\nvoice\x07\x1b[2J\x7f.pdf"), "invoice[2J.pdf");
+  EXPECT_EQ(safeFileName("invoice\u202efdp.exe"), "invoicefdp.exe") << "a name that reads backwards";
+  EXPECT_EQ(safeFileName("a\u2066b\u200fc\u200bd\u2028e\ufeff.txt"), "abcde.txt");
+  EXPECT_EQ(safeFileName("\u202e.profile"), "profile") << "a dot that comes first when the rest has gone";
+  EXPECT_EQ(safeFileName("\u202e/.."), "download");
+  EXPECT_EQ(safeFileName("Rechnung für Jörg.pdf"), "Rechnung für Jörg.pdf");
+  EXPECT_EQ(safeFileName("archive.tar.gz"), "archive.tar.gz");
+}
+
+TEST_F(ReserveFileTest, ANameIsAtMost200BytesLongWithItsExtension) {
+  for (const std::string letter : {"x", "ä", "€", "😀"}) {
+    std::string stem;
+    for (int i = 0; i < 300; ++i)
+      stem += letter;
+    const auto name = safeFileName(stem + ".pdf");
+    EXPECT_LE(name.size(), 200u);
+    EXPECT_GE(name.size(), 196u);
+    EXPECT_TRUE(name.ends_with(letter + ".pdf")) << name;
+    EXPECT_EQ(reserved(stem + ".pdf"), name);
+    const auto copy = reserved(stem + ".pdf");
+    EXPECT_LE(copy.size(), 200u);
+    EXPECT_TRUE(copy.ends_with(letter + " (1).pdf")) << copy;
+  }
+  EXPECT_EQ(safeFileName("x." + std::string(300, 'y')).size(), 200u);
+  EXPECT_LE(safeFileName(std::string(300, '\xff')).size(), 200u);
 }
 
 TEST_F(ReserveFileTest, AMissingFolderIsMade) {
