@@ -82,6 +82,24 @@ TEST(BrandMark, ItsBarRunsFromBlackThroughBlueToGreenAndRisesToTheRight) {
   EXPECT_THAT(drawn.bar(24.2, 3.3), IsNearly(tile)) << "with round ends";
 }
 
+/// How many pixels of a mark's bar lie above each other where it ends, right of the letter.
+int drawnBarHeight(int size) {
+  auto* mark = Gtk::make_managed<BrandMark>(size);
+  TestWindow window(*hstack(0, {mark, hspacer()}), 300);
+  const int x = size / 2 + static_cast<int>(0.32 * size);
+  int height = 0;
+  for (int y = size / 2; y < size; ++y) {
+    const auto pixel = window.pixel(x, y);
+    height += pixel.green - pixel.red > 0.25;
+  }
+  return height;
+}
+
+TEST(BrandMark, ItsBarIsDrawnThreePointsHighInASmallMarkAndHigherInALargeOne) {
+  EXPECT_THAT(drawnBarHeight(20), ::testing::AllOf(::testing::Ge(2), ::testing::Le(4)));
+  EXPECT_THAT(drawnBarHeight(60), ::testing::AllOf(::testing::Ge(4), ::testing::Le(6)));
+}
+
 TEST(BrandMark, ItsLetterIsABlackQALittleBelowTheMiddle) {
   DrawnMark drawn;
   const auto layout = drawn.mark.create_pango_layout("Q");

@@ -24,6 +24,14 @@ TEST(StyleSheet, EveryColourNameItUsesIsDefined) {
     EXPECT_TRUE(defined.contains(name)) << '@' << name;
 }
 
+TEST(StyleSheet, MintAndSlateAreTonesAndNoColoursOfThePalette) {
+  const auto css = styleSheet();
+  for (const std::string tone : {"mint", "slate"}) {
+    EXPECT_THAT(css, ::testing::HasSubstr(".tone-" + tone + " { color: "));
+    EXPECT_THAT(css, ::testing::Not(::testing::ContainsRegex("@(define-color )?" + tone)));
+  }
+}
+
 TEST(StyleSheet, NoColourAndNoRadiusOfThePaletteIsSpelledOutInAHandWrittenRule) {
   const std::string css = handWrittenRules();
   EXPECT_FALSE(std::regex_search(css, std::regex("rgba?\\(|hsla?\\(|#[0-9a-fA-F]{3}")));

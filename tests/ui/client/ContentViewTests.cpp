@@ -245,10 +245,26 @@ TEST_F(ContentViewTest, InLargeTextNothingIsCutAndNothingOverlaps) {
   }
 }
 
+TEST_F(ContentViewTest, BeforeAnyPageReportsTheAgentAddressShowsAndNothingElseIsOn) {
+  close();
+  start("fresh");
+  ContentView fresh(*model);
+  std::string shown;
+  for (auto* label : tests::all<Gtk::Label>(*tests::all<AddressField>(fresh).front()))
+    shown += label->get_text();
+  EXPECT_EQ(shown, url(QuorvelRoute::agent));
+  EXPECT_FALSE(buttonNamed(fresh, "Back")->get_sensitive());
+  EXPECT_FALSE(buttonNamed(fresh, "Forward")->get_sensitive());
+  EXPECT_FALSE(tests::all<Gtk::Spinner>(fresh).front()->get_visible());
+  EXPECT_FALSE(tests::all<Gtk::Spinner>(fresh).front()->get_spinning());
+}
+
 TEST_F(ContentViewTest, AtTheLeastWidthTheSidebarKeepsItsWidthAndThePageTakesTheRest) {
   EXPECT_THAT(bounds(the<DesktopClientSidebar>()), IsRectangle(0, 0, 306, 760));
   const auto toolbar = bounds(the<DesktopClientToolbar>());
-  EXPECT_THAT(toolbar, IsRectangle(307, 0, 873, toolbar.get_height()));
+  const int highest =
+      std::max(bounds(the<AddressField>()).get_height(), bounds(button("Reload")).get_height());
+  EXPECT_THAT(toolbar, IsRectangle(307, 0, 873, 10 + highest + 10));
   EXPECT_THAT(bounds(the<QuorvelWebView>()),
               IsRectangle(307, toolbar.get_height(), 873, 760 - toolbar.get_height()));
   EXPECT_THAT(window->pixel(306, 400), IsColor(Color{0.122, 0.123, 0.124})) << "the line on the background";
@@ -526,9 +542,19 @@ TEST_F(ContentViewTest, ResizingNeverReloads) {
 TEST_F(ContentViewTest, AChangeOfTitleOrLoadingNeitherReloadsNorReplacesThePage) {
   auto* shown = the<QuorvelWebView>().get_first_child();
   ASSERT_EQ(shown->gobj(), GTK_WIDGET(webView()));
+  auto* settings = webkit_web_view_get_settings(webView());
+  int settingsChanged = 0;
+  g_signal_connect_swapped(settings, "notify", G_CALLBACK(+[](int* count) { ++*count; }), &settingsChanged);
   runScript("document.title = 'Another'");
   ASSERT_TRUE(tests::eventually([&] { return *model->title == "Another"; }));
-  tests::drawFrame(*view);
+  for (const bool isLoading : {true, false}) {
+    model->isLoading = isLoading;
+    tests::drawFrame(*view);
+    EXPECT_EQ(the<Gtk::Spinner>().get_visible(), isLoading);
+  }
+  g_signal_handlers_disconnect_by_data(settings, &settingsChanged);
+  EXPECT_EQ(settingsChanged, 0);
+  EXPECT_EQ(webkit_web_view_get_settings(webView()), settings);
   EXPECT_EQ(the<QuorvelWebView>().get_first_child(), shown);
   EXPECT_EQ(server.count("/agent.html"), 1);
 }

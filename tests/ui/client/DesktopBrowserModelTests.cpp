@@ -68,6 +68,31 @@ TEST_F(DesktopBrowserModelTest, EachUpdateAnnouncesTheFiveFieldsInOrderChangedOr
   }
 }
 
+TEST_F(DesktopBrowserModelTest, AnUpdateThatChangesAllFiveFieldsIsAnnouncedFiveTimes) {
+  show("/pricing.html");
+  const bool hasBack = model->canGoBack, hasForward = model->canGoForward;
+  model->canGoBack = !hasBack;
+  model->canGoForward = !hasForward;
+  model->isLoading = true;
+  model->currentURLString = "elsewhere";
+  std::vector<std::string> changed;
+  const auto note = [&] {
+    std::string fields;
+    fields += model->canGoBack == hasBack ? "back " : "";
+    fields += model->canGoForward == hasForward ? "forward " : "";
+    fields += model->isLoading ? "" : "loading ";
+    fields += *model->currentURLString == server.address("/pricing.html") ? "address " : "";
+    fields += *model->title == "Another" ? "title " : "";
+    changed.push_back(fields);
+  };
+  model->objectWillChange().connect(note);
+  runScript("document.title = 'Another'");
+  ASSERT_TRUE(tests::eventually([&] { return *model->title == "Another"; }));
+  note();
+  EXPECT_THAT(changed, ElementsAre("", "back ", "back forward ", "back forward loading ",
+                                   "back forward loading address ", "back forward loading address title "));
+}
+
 TEST_F(DesktopBrowserModelTest, UpdatesThatWaitAreDroppedWhenTheModelGoes) {
   int announcements = 0;
   model->load(server.address("/pricing.html"));
@@ -262,6 +287,14 @@ TEST_F(DesktopBrowserModelTest, AFailedLoadEndsTheLoadingStateAndTheAddressIsWha
     const std::string reported = webkit_web_view_get_uri(webView());
     EXPECT_EQ(*model->currentURLString, reported.empty() ? address : reported) << address;
   }
+}
+
+TEST_F(DesktopBrowserModelTest, WhereTheViewReportsNoTitleTheProgramsNameStandsForIt) {
+  start("fresh");
+  model->title = "Another";
+  server.silence("/silent.html");
+  model->load(server.address("/silent.html"));
+  EXPECT_TRUE(tests::eventually([&] { return *model->title == "Quorvel"; })) << *model->title;
 }
 
 TEST_F(DesktopBrowserModelTest, AServerErrorEndsTheLoadingState) {

@@ -2,8 +2,11 @@
 
 #include "brand/QuorvelBrand.h"
 #include "brand/StatusPill.h"
+#include "support/Looks.h"
 #include "support/TestWindow.h"
 #include "support/TextScale.h"
+
+#include <map>
 
 namespace quorvel {
 namespace {
@@ -38,11 +41,23 @@ std::vector<Gtk::Widget*> stepPills(Gtk::Widget& card) {
   return pills;
 }
 
+/// The steps that are drawn lit, by their soft grounds and the full colours of their texts. All others must
+/// be drawn dark.
 std::vector<std::string> litSteps(Gtk::Widget& card) {
+  const std::map<std::string, std::string> tones{
+      {"Found", "blue"}, {"Drafted", "green"}, {"Review", "gold"}, {"Done", "slate"}};
   std::vector<std::string> lit;
-  for (auto* pill : stepPills(card))
-    if (pill->has_css_class("active"))
-      lit.push_back(texts(*pill).front());
+  for (auto* pill : stepPills(card)) {
+    const auto title = texts(*pill).front(), &tone = tones.at(title);
+    const auto look = [&](const std::string& ground, const std::string& ink) {
+      return "\nground " + ground + " capsule, line white/0.115\npadded 0 8\n\"" + title + "\" 11 700 " +
+             ink + "\n";
+    };
+    if (lookOf(*pill) == look(tone + "/0.14", tone))
+      lit.push_back(title);
+    else
+      EXPECT_EQ(lookOf(*pill), look("raised", "white/0.55"));
+  }
   return lit;
 }
 
@@ -216,6 +231,10 @@ TEST(Requests, AnAgentKeepsToItsLineInLargeTextAndTheSummaryWraps) {
   TestWindow window(view, 852);
   for (const auto& item : *store.requests)
     EXPECT_EQ(labelled(view, item.agent)->get_layout()->get_line_count(), 1) << item.agent;
+  const auto& item = store.requests->at(1);
+  auto* summary = labelled(view, item.summary);
+  EXPECT_GT(summary->get_layout()->get_line_count(), 1) << "more than one line";
+  EXPECT_FALSE(summary->get_layout()->is_ellipsized());
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "console/RequestsView.h"
 #include "console/SecurityView.h"
 #include "layout/Container.h"
+#include "support/Looks.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 
@@ -111,6 +112,24 @@ TEST_F(RouterTest, OtherChangesOfTheStoreKeepTheScreen) {
   store_.approveFirstPending();
   drawFrame(router_);
   EXPECT_EQ(&screen(), before);
+}
+
+TEST_F(RouterTest, TheBrowserWorkspaceIsTheSameWhateverTheStoreHolds) {
+  select(WorkspaceSection::browser);
+  auto* before = &screen();
+  const auto look = lookOf(screen());
+  store_.approve(store_.approvals->front());
+  store_.toggleConnector(store_.connectors->front());
+  store_.requests = {};
+  store_.agents = {};
+  store_.activity = {};
+  store_.searchText = "Gmail";
+  drawFrame(router_);
+  EXPECT_EQ(&screen(), before);
+  EXPECT_EQ(lookOf(screen()), look);
+  select(WorkspaceSection::overview);
+  select(WorkspaceSection::browser);
+  EXPECT_EQ(lookOf(screen()), look) << "built anew";
 }
 
 TEST_F(RouterTest, SwitchingSectionsDiscardsAHalfTypedDraft) {

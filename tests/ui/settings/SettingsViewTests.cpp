@@ -1,6 +1,8 @@
 #include "brand/QuorvelBrand.h"
+#include "console/SecurityView.h"
 #include "settings/SettingsView.h"
 #include "support/Looks.h"
+#include "support/RealInput.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 #include "support/TextChecks.h"
@@ -114,6 +116,26 @@ TEST_F(SettingsViewTest, TwoViewsOfTheSamePreferencesAgree) {
   TestWindow otherWindow(*other, 520);
   flip("Ad spend changes");
   EXPECT_TRUE(comesToRest(*all<Gtk::Switch>(*other)[2], false));
+}
+
+TEST_F(SettingsViewTest, AClickOfThePointerOnATitleFlipsTheSwitchBesideIt) {
+  for (const auto& [title, key] : toggles) {
+    clickOn(*labelled(*view, title));
+    EXPECT_TRUE(eventually([&, preference = key] { return !preferences->isOn(preference); })) << title;
+  }
+}
+
+TEST_F(SettingsViewTest, WhatTheTrustScreenSharesIsTheSameInBothWhereverItIsFlipped) {
+  WorkspaceStore store;
+  Preferences others(file);
+  auto* trust = Gtk::make_managed<SecurityView>(store, others);
+  TestWindow trustWindow(*trust, 900);
+  auto& here = toggle("Ad spend changes");
+  auto& there = *all<Gtk::Switch>(*trust).front();
+  gtk_widget_activate(GTK_WIDGET(here.gobj()));
+  EXPECT_TRUE(comesToRest(there, false));
+  gtk_widget_activate(GTK_WIDGET(there.gobj()));
+  EXPECT_TRUE(comesToRest(here, true));
 }
 
 TEST_F(SettingsViewTest, AClickAnywhereOnARowFlipsItsSwitch) {

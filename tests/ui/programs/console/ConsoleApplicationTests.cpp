@@ -87,6 +87,18 @@ TEST_F(ColumnsTest, From1500TheInspectorIs320Wide) {
   EXPECT_EQ(bounds<DetailView>().get_width(), 1500 - 272 - 320);
 }
 
+TEST_F(ColumnsTest, ThePreferenceToShowTheInspectorChangesNothing) {
+  for (const int width : {1499, 1500}) {
+    window_.resize(width, 760);
+    const auto before = window_.picture();
+    preferences_.set(PreferenceKey::showInspector, false);
+    drawFrame(columns_);
+    EXPECT_EQ(showsInspector(), width == 1500);
+    EXPECT_EQ(window_.picture(), before);
+    preferences_.set(PreferenceKey::showInspector, true);
+  }
+}
+
 TEST_F(ColumnsTest, OnADesktopThatIsReadFromTheRightTheSidebarIsThere) {
   const RightToLeft desktop;
   window_.resize(1600, 760);

@@ -42,6 +42,13 @@ class Console {
         return *button;
     throw std::runtime_error(name);
   }
+  Gtk::Button& disabledButton(const char* name) {
+    for (auto* button : all<Gtk::Button>(*all<DetailView>(columns_).front()))
+      if (!button->is_sensitive() && labelled(*button, name))
+        return *button;
+    throw std::runtime_error(name);
+  }
+  Gtk::Label& label(const char* text) { return *labelled(*all<DetailView>(columns_).front(), text); }
   Gtk::Entry& draft() { return *all<Gtk::Entry>(columns_).front(); }
   State state() {
     drawFrame(columns_);
@@ -138,6 +145,38 @@ TEST(RepeatedKey, PressesNothingOnTheScreenThatItTurnedTo) {
     strikeThrice(console, button);
     EXPECT_EQ(console.state(), expected) << button;
   }
+}
+
+TEST(RealPointer, OnReviewOfTheSnippetDoesNothing) {
+  Console console(WorkspaceSection::overview);
+  auto expected = console.state();
+  clickOn(console.label("Review"));
+  clickOn(console.button("Review Queue")); // the one before it has had its effect when this one has
+  expected.section = WorkspaceSection::approvals;
+  EXPECT_TRUE(eventually([&] { return console.state().section == WorkspaceSection::approvals; }));
+  EXPECT_EQ(console.state(), expected);
+}
+
+TEST(RealInput, OnTheButtonsOfADecidedGateDoesNothing) {
+  Console console(WorkspaceSection::approvals);
+  auto expected = console.state();
+  const auto isGate = [&](std::size_t index, ApprovalState state) {
+    return eventually([&] { return console.state().gates.at(index) == state; });
+  };
+  clickOn(console.button("Approve"));
+  ASSERT_TRUE(isGate(0, ApprovalState::approved));
+  for (const char* name : {"Pause", "Approve"}) {
+    auto& button = console.disabledButton(name);
+    EXPECT_FALSE(button.grab_focus());
+    for (const char* key : {"Return", "space"})
+      strikeKey(key);
+    clickOn(button);
+  }
+  clickOn(console.button("Pause"));
+  ASSERT_TRUE(isGate(1, ApprovalState::paused));
+  expected.gates = {ApprovalState::approved, ApprovalState::paused, ApprovalState::paused};
+  expected.entries += 2;
+  EXPECT_EQ(console.state(), expected) << "the two decisions and nothing else";
 }
 
 TEST(HeldKey, IsRepeatedInATextAsEver) {
