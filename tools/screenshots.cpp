@@ -1,15 +1,17 @@
-#include "brand/StyleSheet.h"
-#include "programs/console/ConsoleColumns.h"
+#include "programs/console/ConsoleApplication.h"
+#include "support/DisplayLease.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 
 #include <array>
+#include <filesystem>
 #include <iostream>
 
 using namespace quorvel;
 
 namespace {
 
+/// How large the content of the window is, below its header bar.
 struct Size {
   int width, height;
 };
@@ -20,16 +22,18 @@ std::string fileName(WorkspaceSection section, Size size) {
          std::to_string(size.height) + ".png";
 }
 
-/// Each section of the console with the sample workspace.
-void takePictures(const std::filesystem::path& folder, Size size) {
-  quorvel::tests::TemporaryFolder settings;
-  Preferences preferences(settings.path / "preferences.ini");
-  WorkspaceStore store;
-  ConsoleColumns columns(store, preferences);
-  quorvel::tests::TestWindow window(columns, size.width, size.height);
+/// Each section of the console with the sample workspace, in the program's own window.
+void takePictures(ConsoleApplication& console, const std::filesystem::path& folder, Size size) {
+  auto& window = *console.get_windows().front();
+  auto& content = *window.get_child();
+  content.set_size_request(size.width, size.height);
+  window.set_default_size(size.width, 1);
+  if (!tests::eventually(
+          [&] { return content.get_width() == size.width && content.get_height() == size.height; }))
+    throw std::runtime_error("the window does not take its size");
   for (const auto section : allCases<WorkspaceSection>()) {
-    store.selectedSection = section;
-    window.savePicture(folder / fileName(section, size));
+    console.store().selectedSection = section;
+    tests::savePicture(window, folder / fileName(section, size));
   }
 }
 
@@ -38,15 +42,21 @@ void takePictures(const std::filesystem::path& folder, Size size) {
 /// Saves a picture of every screen into a folder. Needs a display as large as the largest picture.
 int main(int argc, char** argv) {
   if (argc != 2 || !std::filesystem::is_directory(argv[1])) {
-    std::cerr << "usage: quorvel-screenshots FOLDER" << std::endl;
+    std::cerr << "usage: screenshots FOLDER" << std::endl;
     return 2;
   }
-  if (!gtk_init_check()) {
-    std::cerr << "quorvel-screenshots needs a display, and found none." << std::endl;
-    return 1;
-  }
-  Gtk::Application::create();
-  installStyle();
-  for (const auto size : sizes)
-    takePictures(argv[1], size);
+  // No preference of the user's shows, and no test has its window under this one.
+  const tests::TemporaryFolder home;
+  g_setenv("XDG_CONFIG_HOME", home.path.c_str(), true);
+  const tests::DisplayLease display;
+  const auto console = ConsoleApplication::create(Gio::Application::Flags::NON_UNIQUE);
+  const std::filesystem::path folder = argv[1];
+  console->signal_activate().connect([&] {
+    Glib::signal_idle().connect_once([&] {
+      for (const auto size : sizes)
+        takePictures(*console, folder, size);
+      console->quit();
+    });
+  });
+  return console->run();
 }

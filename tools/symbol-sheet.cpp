@@ -3,6 +3,7 @@
 #include "brand/StyleSheet.h"
 #include "brand/symbol.h"
 #include "layout/stacks.h"
+#include "support/DisplayLease.h"
 #include "support/TestWindow.h"
 
 #include <gtkmm.h>
@@ -64,6 +65,7 @@ int main(int argc, char** argv) {
     g_printerr("usage: symbol_sheet PICTURE\n");
     return 2;
   }
+  const quorvel::tests::DisplayLease display; // no test has its window under this one
   if (!gtk_init_check()) {
     g_printerr("symbol_sheet: there is no display to draw on\n");
     return 1;

@@ -16,6 +16,21 @@ bool hasAccessibleText(Gtk::Widget& widget, GtkAccessibleProperty property, cons
   return isSame;
 }
 
+/// All of a window once it has drawn what was announced.
+Cairo::RefPtr<Cairo::ImageSurface> drawingOf(Gtk::Window& window) {
+  drawFrame(window);
+  const auto paintable = Gtk::WidgetPaintable::create(window);
+  const int width = paintable->get_intrinsic_width(), height = paintable->get_intrinsic_height();
+  const auto snapshot = Gtk::Snapshot::create();
+  paintable->snapshot(snapshot, width, height);
+  auto* node = gtk_snapshot_to_node(snapshot->gobj());
+  const auto surface = Cairo::ImageSurface::create(Cairo::Surface::Format::ARGB32, width, height);
+  gsk_render_node_draw(node, Cairo::Context::create(surface)->cobj());
+  gsk_render_node_unref(node);
+  surface->flush();
+  return surface;
+}
+
 } // namespace
 
 TestWindow::TestWindow(Gtk::Widget& widget, int width, int height) : widget_(widget) {
@@ -44,16 +59,7 @@ void TestWindow::resize(int width, int height) {
 }
 
 Cairo::RefPtr<Cairo::ImageSurface> TestWindow::draw() {
-  drawFrame(widget_);
-  const auto paintable = Gtk::WidgetPaintable::create(*this);
-  const auto snapshot = Gtk::Snapshot::create();
-  paintable->snapshot(snapshot, get_width(), get_height());
-  auto* node = gtk_snapshot_to_node(snapshot->gobj());
-  const auto surface = Cairo::ImageSurface::create(Cairo::Surface::Format::ARGB32, get_width(), get_height());
-  gsk_render_node_draw(node, Cairo::Context::create(surface)->cobj());
-  gsk_render_node_unref(node);
-  surface->flush();
-  return surface;
+  return drawingOf(*this);
 }
 
 Color TestWindow::pixel(int x, int y) {
@@ -73,7 +79,11 @@ std::vector<unsigned char> TestWindow::picture() {
 }
 
 void TestWindow::savePicture(const std::string& path) {
-  draw()->write_to_png(path);
+  tests::savePicture(*this, path);
+}
+
+void savePicture(Gtk::Window& window, const std::string& path) {
+  drawingOf(window)->write_to_png(path);
 }
 
 void drawFrame(Gtk::Widget& widget) {

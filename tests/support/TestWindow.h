@@ -40,6 +40,9 @@ MATCHER_P(IsColor, expected, "") {
   return same(arg.red, expected.red) && same(arg.green, expected.green) && same(arg.blue, expected.blue);
 }
 
+/// Writes all of a window, with its header bar, into a PNG file.
+void savePicture(Gtk::Window& window, const std::string& path);
+
 /// Runs the main loop until what was announced has been drawn.
 void drawFrame(Gtk::Widget& widget);
 
