@@ -3,6 +3,8 @@
 #include "brand/QuorvelBrand.h"
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
+#include "brand/buttons.h"
+#include "brand/sidebar.h"
 #include "brand/text.h"
 #include "brand/tone.h"
 #include "support/Looks.h"
@@ -204,6 +206,49 @@ TEST(MetricTile, ShowsItsFourPartsAndANewValueInPlace) {
   EXPECT_THAT(texts(*tile), ElementsAre("Active requests", "4", "Routed or drafting"));
   EXPECT_EQ(boundsIn(*tile, *labelled(*tile, "4")).get_x(), 18);
   EXPECT_EQ(all<Gtk::Image>(*tile).front()->get_icon_name(), "arrow.up.right.700-symbolic") << "bold";
+}
+
+/// A button in a state, as it comes to rest.
+struct ButtonLook {
+  ButtonStyle style;
+  Gtk::StateFlags state;
+  std::string look;
+};
+
+TEST(Button, HasALookInEachOfItsStates) {
+  using enum ButtonStyle;
+  constexpr auto hover = Gtk::StateFlags::PRELIGHT, press = Gtk::StateFlags::ACTIVE;
+  const std::string button = "\nbutton 28 high\ninset 12 0\n\"Pause\" 13 ";
+  const std::vector<ButtonLook> looks{
+      {bordered, {}, "\nground white/0.08 round 7, line white/0.115" + button + "500 white\n"},
+      {bordered, hover, "\nground white/0.13 round 7, line white/0.115" + button + "500 white\n"},
+      {bordered, press, "\nground white/0.18 round 7, line white/0.115" + button + "500 white\n"},
+      {prominent, {}, "\nground control round 7" + button + "600 black\n"},
+      {prominent, hover, "\nground white round 7" + button + "600 black\n"},
+      {prominent, press, "\nground 0.823:0.823:0.805 round 7" + button + "600 black\n"},
+      {link, {}, "\nbutton\n\"Pause\" 13 500 blue\n"},
+      {plain, {}, "\nbutton\n\"Pause\" 14 400 white\n"},
+      {plain, hover, "\nbutton\n\"Pause\" 14 400 white\n"},
+  };
+  for (const auto& [style, state, look] : looks) {
+    auto* shown = quorvel::button("Pause", style, [] {});
+    TestWindow window(*hstack(0, {shown, hspacer()}), 300);
+    shown->set_state_flags(state, false);
+    if (!comesToLook(*shown, look)) {
+      EXPECT_EQ(lookOf(*shown), look);
+    }
+  }
+}
+
+TEST(Button, TakesTheDrawingsGroundUnderThePointerForANewChatToo) {
+  auto* shown = newChatButton(FontWeight::black, [] {});
+  TestWindow window(*shown, 300);
+  const std::string button = "\nbutton\npadded 0 13\n\"+ New chat\" 14 900 black\n";
+  EXPECT_EQ(lookOf(*shown), "\nground control round 10" + button);
+  shown->set_state_flags(Gtk::StateFlags::PRELIGHT, false);
+  EXPECT_TRUE(comesToLook(*shown, "\nground white round 10" + button)) << lookOf(*shown);
+  shown->set_state_flags(Gtk::StateFlags::ACTIVE, true);
+  EXPECT_TRUE(comesToLook(*shown, "\nground 0.823:0.823:0.805 round 10" + button)) << lookOf(*shown);
 }
 
 TEST(Tone, ATextTakesTheToneOfItselfAndOfAContainer) {

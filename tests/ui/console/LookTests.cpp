@@ -12,6 +12,8 @@
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
 
+#include <set>
+
 namespace quorvel {
 namespace {
 
@@ -1016,6 +1018,42 @@ ground blue capsule
 "Strong for software work, while Quorvel focuses on operations, customers, ads, orders, and finance." 13 400 secondary
 )",
                           store);
+}
+
+/// How large the small shapes of a view are, each size once: "dot 9 by 9".
+template <class View, class... Arguments>
+std::set<std::string> shapes(Arguments&... arguments) {
+  auto* view = Gtk::make_managed<View>(arguments...);
+  TestWindow window(*view, 900);
+  std::set<std::string> found;
+  for (auto* widget : all<Gtk::Widget>(*view))
+    for (const char* shape :
+         {"dot", "activity-bar", "soft-tile", "soft-circle", "window-button", "browser-message-dot"})
+      if (widget->has_css_class(shape) && widget->get_mapped())
+        found.insert(std::string(shape) + " " + std::to_string(widget->get_width()) + " by " +
+                     std::to_string(widget->get_height()));
+  return found;
+}
+
+TEST_F(LookTest, DotsTilesAndBarsHaveTheirSizes) {
+  using ::testing::ElementsAre;
+  EXPECT_THAT(shapes<SidebarView>(store), ElementsAre("dot 9 by 9"));
+  EXPECT_THAT(shapes<InspectorPanel>(store), ElementsAre("dot 8 by 8", "soft-circle 24 by 24"));
+  EXPECT_THAT(shapes<OverviewView>(store), ElementsAre("activity-bar 7 by 28", "dot 10 by 10"));
+  EXPECT_THAT(shapes<AgentsView>(store), ElementsAre("soft-circle 42 by 42"));
+  EXPECT_THAT(shapes<ConnectorsView>(store), ElementsAre("soft-tile 38 by 38"));
+  EXPECT_THAT(shapes<BrowserWorkspaceView>(),
+              ElementsAre("browser-message-dot 9 by 9", "window-button 11 by 11"));
+  EXPECT_THAT(shapes<SecurityView>(store, preferences), ElementsAre("soft-tile 42 by 42"));
+  EXPECT_THAT(shapes<PricingView>(store), ElementsAre("dot 12 by 12"));
+}
+
+TEST_F(LookTest, ABarOfProgressIsFourPointsHigh) {
+  auto* view = Gtk::make_managed<RequestsView>(store);
+  TestWindow window(*view, 900);
+  auto* trough = all<Gtk::ProgressBar>(*view).front()->get_first_child();
+  EXPECT_EQ(trough->get_height(), 4);
+  EXPECT_EQ(trough->get_first_child()->get_height(), 4);
 }
 
 TEST_F(LookTest, InANarrowColumnTheCommandCentresMarkIsSmallerAndItsCardsStandBelowEachOther) {
