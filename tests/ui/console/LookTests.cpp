@@ -566,7 +566,7 @@ column 8
 "HUMAN GATES" 11 900 green
 "Important actions wait here" 34 700 white
 "Finance, ad spend, bookings, customer-facing messages, and connected-app changes are separated from normal drafting." 13 400 secondary
-column 12
+form column 12
 shadow black/0.22 0 12 16, ground panel round 10, line white/0.115 round 10
 padded 18
 column 16
