@@ -1,6 +1,7 @@
 #include "brand/BrandMark.h"
 
 #include "brand/QuorvelBrand.h"
+#include "layout/accessible.h"
 
 #include <algorithm>
 #include <gtk/gtk.h>
@@ -37,6 +38,7 @@ BrandMark::Geometry::Geometry(double s)
 BrandMark::BrandMark(int size) : size_(size), geometry_(size) {
   set_halign(Gtk::Align::CENTER);
   set_valign(Gtk::Align::CENTER);
+  setAccessiblyHidden(*this);
 }
 
 void BrandMark::measure_vfunc(Gtk::Orientation, int, int& minimum, int& natural, int& minimumBaseline,

@@ -3,6 +3,7 @@
 #include "brand/cssClass.h"
 #include "brand/symbol.h"
 #include "layout/Frame.h"
+#include "layout/accessible.h"
 
 namespace quorvel {
 

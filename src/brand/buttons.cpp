@@ -2,6 +2,7 @@
 
 #include "brand/cssClass.h"
 #include "brand/symbol.h"
+#include "layout/accessible.h"
 #include "layout/stacks.h"
 
 namespace quorvel {
@@ -16,7 +17,10 @@ Gtk::Button* button(Gtk::Widget* label, ButtonStyle style, Action action) {
 }
 
 Gtk::Button* button(const Glib::ustring& title, ButtonStyle style, Action action) {
-  return button(Gtk::make_managed<Gtk::Label>(title), style, std::move(action));
+  auto* result = button(Gtk::make_managed<Gtk::Label>(title), style, std::move(action));
+  if (!title.empty()) // or it follows the label that it will get
+    setAccessibleName(*result, title);
+  return result;
 }
 
 Gtk::Button* button(const Glib::ustring& title, std::string_view symbolName, ButtonStyle style,
@@ -35,24 +39,6 @@ Gtk::Button* symbolButton(std::string_view symbolName, const Glib::ustring& help
   result->set_tooltip_text(help);
   setAccessibleName(*result, help);
   return result;
-}
-
-void setAccessibleName(Gtk::Widget& widget, const Glib::ustring& name) {
-  gtk_accessible_update_property(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_PROPERTY_LABEL, name.c_str(),
-                                 -1);
-}
-
-void setAccessibleDescription(Gtk::Widget& widget, const Glib::ustring& description) {
-  gtk_accessible_update_property(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_PROPERTY_DESCRIPTION,
-                                 description.c_str(), -1);
-}
-
-void setAccessiblyHidden(Gtk::Widget& widget) {
-  gtk_accessible_update_state(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_STATE_HIDDEN, TRUE, -1);
-}
-
-void setAccessibleSelected(Gtk::Widget& widget, bool isSelected) {
-  gtk_accessible_update_state(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_STATE_SELECTED, isSelected, -1);
 }
 
 } // namespace quorvel

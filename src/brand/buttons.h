@@ -36,13 +36,4 @@ Gtk::Button* symbolButton(std::string_view symbolName, const Glib::ustring& help
 /// A button around any label, which is laid out over its whole width. Managed.
 Gtk::Button* button(Gtk::Widget* label, ButtonStyle style, Action action);
 
-/// The name that assistive technology reads for a widget.
-void setAccessibleName(Gtk::Widget& widget, const Glib::ustring& name);
-/// What assistive technology may add to the name.
-void setAccessibleDescription(Gtk::Widget& widget, const Glib::ustring& description);
-/// Leaves the widget to the eye, where another one says the same to assistive technology.
-void setAccessiblyHidden(Gtk::Widget& widget);
-/// Whether assistive technology calls the widget the chosen one of its group.
-void setAccessibleSelected(Gtk::Widget& widget, bool isSelected);
-
 } // namespace quorvel

@@ -3,6 +3,7 @@
 #include "brand/BrandMark.h"
 #include "brand/StatusPill.h"
 #include "brand/surfaces.h"
+#include "layout/accessible.h"
 #include "layout/stacks.h"
 
 namespace quorvel {

@@ -1,6 +1,7 @@
 #include "brand/surfaces.h"
 
 #include "brand/cssClass.h"
+#include "layout/accessible.h"
 #include "layout/stacks.h"
 
 namespace quorvel {
@@ -21,7 +22,7 @@ Gtk::Widget* disc(const std::string& cssClass, int diameter) {
   circle->set_size_request(diameter, diameter);
   circle->set_halign(Gtk::Align::CENTER);
   circle->set_valign(Gtk::Align::CENTER);
-  return circle;
+  return decorative(circle);
 }
 
 Gtk::Widget* quorvelCard(Gtk::Widget* content, int padding) {

@@ -1,6 +1,7 @@
 #include "brand/symbol.h"
 
 #include "brand/cssClass.h"
+#include "layout/accessible.h"
 
 #include <algorithm>
 #include <array>
@@ -40,7 +41,7 @@ Gtk::Image* symbol(std::string_view name, const TextLook& look) {
   image->add_css_class("symbol");
   applyLook(*image, look);
   setSymbol(*image, name);
-  return image;
+  return decorative(image);
 }
 
 void setSymbol(Gtk::Image& image, std::string_view name) {

@@ -1,11 +1,11 @@
 #include "client/AddressField.h"
 
-#include "brand/buttons.h"
 #include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/text.h"
 #include "client/displayedAddress.h"
 #include "layout/Container.h"
+#include "layout/accessible.h"
 
 #include <algorithm>
 

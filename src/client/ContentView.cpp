@@ -1,6 +1,5 @@
 #include "client/ContentView.h"
 
-#include "brand/buttons.h"
 #include "client/DesktopBrowserModel.h"
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
@@ -9,6 +8,7 @@
 #include "client/WarningBar.h"
 #include "client/displayedAddress.h"
 #include "layout/Frame.h"
+#include "layout/accessible.h"
 #include "observation/observe.h"
 
 #include <gtkmm/overlay.h>
@@ -36,6 +36,7 @@ Gtk::Spinner* loadingSpinner() {
 Gtk::Widget* pageArea(DesktopBrowserModel& browser, Gtk::Widget* dialog, Gtk::Spinner* spinner) {
   auto* area = Gtk::make_managed<Gtk::Overlay>();
   area->add_css_class("client-page");
+  area->property_accessible_role() = Gtk::Accessible::Role::GROUP;
   area->set_child(*Gtk::make_managed<QuorvelWebView>(browser));
   area->add_overlay(*dialog);
   area->add_overlay(*spinner);
@@ -52,7 +53,7 @@ ContentView::ContentView(DesktopBrowserModel& browser)
   set_size_request(minimumWidth, minimumHeight);
   auto* sidebar =
       Gtk::make_managed<Frame>(Frame::Size{.width = 306}, *Gtk::make_managed<DesktopClientSidebar>(browser));
-  auto* line = Gtk::make_managed<Gtk::Separator>(Gtk::Orientation::VERTICAL);
+  auto* line = decorative(Gtk::make_managed<Gtk::Separator>(Gtk::Orientation::VERTICAL));
   auto* page = vstack(
       0, {Gtk::make_managed<DesktopClientToolbar>(browser), warning_, pageArea(browser, dialog_, spinner_)});
   add({sidebar, tall(line), page});

@@ -41,7 +41,7 @@ Gtk::Widget* statusCard() {
 
 /// As high as its content where there is room; with large text in a low window it scrolls.
 Gtk::Widget* scrolled(Gtk::Widget* content) {
-  auto* scroller = verticalScroller(content);
+  auto* scroller = verticalScroller("Destinations", content);
   scroller->set_propagate_natural_height(true);
   return stretched(scroller);
 }

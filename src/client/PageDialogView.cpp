@@ -4,6 +4,7 @@
 #include "brand/surfaces.h"
 #include "brand/text.h"
 #include "layout/Frame.h"
+#include "layout/accessible.h"
 
 #include <gtkmm/eventcontrollerkey.h>
 #include <utility>
@@ -25,7 +26,7 @@ Words wordsOf(PageDialog::Kind kind) {
 }
 
 Gtk::Widget* scrolling(Gtk::Label* text) {
-  auto* scroller = verticalScroller(text);
+  auto* scroller = verticalScroller("Question", text);
   scroller->set_propagate_natural_height(true);
   scroller->set_max_content_height(mostTextHeight);
   return stretched(scroller);

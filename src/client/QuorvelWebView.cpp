@@ -1,6 +1,7 @@
 #include "client/QuorvelWebView.h"
 
 #include "client/DesktopBrowserModel.h"
+#include "layout/accessible.h"
 
 namespace quorvel {
 
@@ -11,6 +12,7 @@ QuorvelWebView::QuorvelWebView(DesktopBrowserModel& browser) {
   view.set_hexpand(true);
   view.set_vexpand(true);
   append(view);
+  setAccessibleName(view, "Page");
 }
 
 } // namespace quorvel

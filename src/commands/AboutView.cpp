@@ -3,6 +3,7 @@
 #include "brand/BrandMark.h"
 #include "brand/buttons.h"
 #include "brand/text.h"
+#include "layout/accessible.h"
 
 #include <gdkmm/clipboard.h>
 #include <gtk/gtk.h>

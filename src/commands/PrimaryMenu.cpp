@@ -1,6 +1,6 @@
 #include "commands/PrimaryMenu.h"
 
-#include "brand/buttons.h"
+#include "layout/accessible.h"
 
 namespace quorvel {
 

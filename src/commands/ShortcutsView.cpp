@@ -1,15 +1,25 @@
 #include "commands/ShortcutsView.h"
 
 #include "brand/text.h"
+#include "layout/accessible.h"
 
+#include <gtkmm/accelerator.h>
 #include <gtkmm/shortcutlabel.h>
 
 namespace quorvel {
 namespace {
 
+Gtk::Widget* keysOf(const Command& command) {
+  auto* keys = Gtk::make_managed<Gtk::ShortcutLabel>(command.key);
+  guint key = 0;
+  Gdk::ModifierType held{};
+  Gtk::Accelerator::parse(command.key, key, held);
+  setAccessibleName(*keys, Gtk::Accelerator::get_label(key, held));
+  return keys;
+}
+
 Gtk::Widget* row(const Command& command) {
-  return stretched(hstack(24, {text(command.plainTitle(), {TextStyle::body}), hspacer(),
-                               Gtk::make_managed<Gtk::ShortcutLabel>(command.key)}));
+  return stretched(hstack(24, {text(command.plainTitle(), {TextStyle::body}), hspacer(), keysOf(command)}));
 }
 
 Gtk::Widget* block(const Glib::ustring& heading, const CommandGroup& commands) {

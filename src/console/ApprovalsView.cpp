@@ -7,6 +7,7 @@
 #include "brand/text.h"
 #include "console/RecordRows.h"
 #include "console/trailingTexts.h"
+#include "layout/accessible.h"
 #include "layout/focusAsWhole.h"
 
 #include <algorithm>

@@ -5,6 +5,7 @@
 #include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/tone.h"
+#include "layout/accessible.h"
 
 #include <gtkmm/entry.h>
 #include <optional>

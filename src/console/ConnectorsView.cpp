@@ -9,6 +9,7 @@
 #include "brand/tone.h"
 #include "console/RecordRows.h"
 #include "layout/Frame.h"
+#include "layout/accessible.h"
 
 namespace quorvel {
 namespace {

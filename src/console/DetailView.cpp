@@ -1,6 +1,5 @@
 #include "console/DetailView.h"
 
-#include "brand/buttons.h"
 #include "console/AgentsView.h"
 #include "console/ApprovalsView.h"
 #include "console/BrowserWorkspaceView.h"
@@ -9,7 +8,9 @@
 #include "console/PricingView.h"
 #include "console/RequestsView.h"
 #include "console/SecurityView.h"
+#include "layout/accessible.h"
 #include "layout/focusAsWhole.h"
+#include "layout/stacks.h"
 #include "observation/observe.h"
 
 #include <gtkmm/adjustment.h>
@@ -21,6 +22,7 @@ DetailView::DetailView(WorkspaceStore& store, Preferences& preferences)
     : store_(store), preferences_(preferences) {
   // Scrolls like any other area; it is only the bar that is never there.
   set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::EXTERNAL);
+  nameScroller(*this, "Screen");
   observe(store, *this, &DetailView::refresh);
 }
 

@@ -7,6 +7,7 @@
 #include "brand/symbol.h"
 #include "brand/tone.h"
 #include "console/RecordRows.h"
+#include "layout/accessible.h"
 
 namespace quorvel {
 namespace {
@@ -37,6 +38,7 @@ class PlanCard : public VStack {
 
   void show(const PricingPlan& plan) {
     name_->set_text(plan.name);
+    setAccessibleName(*select_, "Select Plan " + plan.name);
     featured_->show("Individual", plan.tone);
     price_->set_text(plan.price);
     setTone(*price_, plan.tone);

@@ -6,6 +6,7 @@
 #include "brand/text.h"
 #include "brand/tone.h"
 #include "console/RecordRows.h"
+#include "layout/accessible.h"
 
 #include <gtkmm/progressbar.h>
 
@@ -41,6 +42,7 @@ void RequestMiniRow::show(const RequestItem& request) {
   status_->show(std::string(rawValue(request.status)), tone(request.status));
   setTone(*progress_, tone(request.status));
   progress_->set_fraction(request.progress);
+  setAccessibleName(*progress_, "Progress of " + request.title);
 }
 
 } // namespace
@@ -48,6 +50,7 @@ void RequestMiniRow::show(const RequestItem& request) {
 RequestQueueCard::RequestQueueCard(WorkspaceStore& store) : VStack(0) {
   auto* open =
       button("Open", ButtonStyle::link, [&store] { store.selectedSection = WorkspaceSection::requests; });
+  setAccessibleName(*open, "Open live queue");
   auto* head = hstack(defaultSpacing,
                       {text("Live queue", {TextStyle::headline, {}, TextColor::ink}), hspacer(), open});
   auto* requests = recordRows<VStack>(store, firstOf(store.requests, 3), made<RequestMiniRow>, 14);

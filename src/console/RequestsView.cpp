@@ -10,6 +10,7 @@
 #include "console/RecordRows.h"
 #include "console/trailingTexts.h"
 #include "layout/WidgetPer.h"
+#include "layout/accessible.h"
 
 #include <array>
 #include <gtkmm/progressbar.h>
@@ -51,6 +52,8 @@ StepPill::StepPill(const char* title, bool isActive, AccentTone tone)
 void StepPill::show(bool isActive) {
   setColor(*title_, isActive ? TextColor::tone : TextColor::dimmed);
   setCssClass(*this, "active", isActive);
+  // The eye has the colour.
+  setAccessibleName(*title_, title_->get_text() + (isActive ? ", done" : ", not done yet"));
 }
 
 class RequestRow : public VStack {
@@ -109,6 +112,7 @@ void RequestRow::show(const RequestItem& request) {
   lastUpdated_->set_text(request.lastUpdated);
   setTone(*progress_, tone(request.status));
   progress_->set_fraction(request.progress);
+  setAccessibleName(*progress_, "Progress of " + request.title);
   for (const auto& [threshold, pill] : steps_)
     pill->show(request.progress >= threshold);
 }

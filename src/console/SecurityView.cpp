@@ -3,13 +3,13 @@
 #include "brand/ModelSwitch.h"
 #include "brand/SectionHeader.h"
 #include "brand/StatusPill.h"
-#include "brand/buttons.h"
 #include "brand/surfaces.h"
 #include "brand/symbol.h"
 #include "brand/tone.h"
 #include "console/RecordRows.h"
 #include "layout/Frame.h"
 #include "layout/WidgetPer.h"
+#include "layout/accessible.h"
 #include "observation/observe.h"
 
 #include <array>

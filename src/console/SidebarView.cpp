@@ -141,7 +141,7 @@ Gtk::Widget* liveMonitorCard() {
 
 Gtk::Widget* body(WorkspaceStore& store) {
   auto* blocks = vstack(22, {Gtk::make_managed<Sections>(store), activeAgents(store), liveMonitorCard()});
-  auto* scroller = verticalScroller(padded({.trailing = 12, .bottom = 18, .leading = 12}, blocks));
+  auto* scroller = verticalScroller("Sidebar", padded({.trailing = 12, .bottom = 18, .leading = 12}, blocks));
   scroller->set_vexpand(true);
   return stretched(scroller);
 }

@@ -4,6 +4,7 @@ namespace quorvel {
 
 // A managed container is disposed of before its destructor runs, any other one in it.
 Container::Container() {
+  property_accessible_role() = Role::GROUP;
   signal_destroy().connect(sigc::mem_fun(*this, &Container::releaseChildren));
 }
 

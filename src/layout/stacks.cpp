@@ -1,8 +1,29 @@
 #include "layout/stacks.h"
 
+#include "layout/accessible.h"
+
+#include <gtk/gtk.h>
 #include <gtkmm/separator.h>
 
 namespace quorvel {
+namespace {
+
+/// By itself the toolkit goes from top to bottom, and so to whatever stands half a point higher than its
+/// neighbours first.
+gboolean focusInOrder(GtkWidget* row, GtkDirectionType direction) {
+  const bool isForward = direction == GTK_DIR_TAB_FORWARD;
+  if (!isForward && direction != GTK_DIR_TAB_BACKWARD)
+    return GTK_WIDGET_CLASS(g_type_class_peek(GTK_TYPE_BOX))->focus(row, direction);
+  auto* child = gtk_widget_get_focus_child(row);
+  if (!child)
+    child = isForward ? gtk_widget_get_first_child(row) : gtk_widget_get_last_child(row);
+  while (child && !gtk_widget_child_focus(child, direction))
+    child = isForward ? gtk_widget_get_next_sibling(child) : gtk_widget_get_prev_sibling(child);
+  return child != nullptr;
+}
+
+} // namespace
+
 VStack::VStack(int spacing, HorizontalAlignment alignment)
     : Gtk::Box(Gtk::Orientation::VERTICAL, spacing), alignment_(alignment) {}
 
@@ -20,6 +41,8 @@ void VStack::place(Gtk::Widget& child, Gtk::Widget* previous) {
 HStack::HStack(int spacing, VerticalAlignment alignment)
     : Gtk::Box(Gtk::Orientation::HORIZONTAL), alignment_(alignment), layout_(RowLayout::create(spacing)) {
   set_layout_manager(layout_);
+  // The class is that of every box made in C++; they all have their children in the order of reading.
+  GTK_WIDGET_GET_CLASS(gobj())->focus = focusInOrder;
 }
 
 void HStack::setEqualWidths() {
@@ -50,27 +73,34 @@ Gtk::Widget* hspacer(int minimum) {
   auto* spacer = Gtk::make_managed<Gtk::Box>();
   spacer->set_size_request(minimum, -1);
   spacer->set_hexpand(true);
-  return spacer;
+  return decorative(spacer);
 }
 
 Gtk::Widget* vspacer(int minimum) {
   auto* spacer = Gtk::make_managed<Gtk::Box>();
   spacer->set_size_request(-1, minimum);
   spacer->set_vexpand(true);
-  return spacer;
+  return decorative(spacer);
 }
 
-Gtk::ScrolledWindow* verticalScroller(Gtk::Widget* content) {
+void nameScroller(Gtk::ScrolledWindow& scroller, const Glib::ustring& name) {
+  setAccessibleName(scroller, name);
+  for (auto* bar : {scroller.get_hscrollbar(), scroller.get_vscrollbar()})
+    setAccessiblyHidden(*bar);
+}
+
+Gtk::ScrolledWindow* verticalScroller(const Glib::ustring& name, Gtk::Widget* content) {
   auto* scroller = Gtk::make_managed<Gtk::ScrolledWindow>();
   scroller->set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::AUTOMATIC);
   scroller->set_child(*content);
+  nameScroller(*scroller, name);
   return scroller;
 }
 
 Gtk::Widget* divider() {
   auto* line = Gtk::make_managed<Gtk::Separator>(Gtk::Orientation::HORIZONTAL);
   line->set_hexpand(true);
-  return line;
+  return decorative(line);
 }
 
 } // namespace quorvel

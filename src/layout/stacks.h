@@ -40,7 +40,7 @@ class VStack : public Gtk::Box {
 
 /// Children side by side, `spacing` points apart. A child that does not expand downwards keeps its natural
 /// height and stands at `alignment`; one that does gets the whole height. The spacing is fixed here: the
-/// box's own properties have no effect.
+/// box's own properties have no effect. Tab follows the row.
 class HStack : public Gtk::Box {
  public:
   explicit HStack(int spacing, VerticalAlignment alignment = VerticalAlignment::centre);
@@ -60,8 +60,12 @@ HStack* hstack(int spacing, Children children, VerticalAlignment alignment = Ver
 Gtk::Widget* hspacer(int minimum = defaultSpacing);
 /// Takes the room that is left between its neighbours in a `VStack`, and never less than `minimum` points.
 Gtk::Widget* vspacer(int minimum = defaultSpacing);
-/// The content, which is never narrower than it must be, in an area that scrolls it up and down. Managed.
-Gtk::ScrolledWindow* verticalScroller(Gtk::Widget* content);
+/// Lets an area that scrolls be heard by this name: by key it scrolls too, and where nothing in it takes the
+/// focus it does. Its bars are for the pointer.
+void nameScroller(Gtk::ScrolledWindow& scroller, const Glib::ustring& name);
+/// The content, which is never narrower than it must be, in an area of this name that scrolls it up and
+/// down. Managed.
+Gtk::ScrolledWindow* verticalScroller(const Glib::ustring& name, Gtk::Widget* content);
 /// A horizontal line, one point high, as wide as its stack.
 Gtk::Widget* divider();
 

@@ -1,10 +1,10 @@
 #include "settings/SettingsView.h"
 
 #include "brand/ModelSwitch.h"
-#include "brand/buttons.h"
 #include "brand/surfaces.h"
 #include "brand/text.h"
 #include "layout/Frame.h"
+#include "layout/accessible.h"
 #include "layout/stacks.h"
 #include "observation/observe.h"
 

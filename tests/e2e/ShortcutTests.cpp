@@ -33,6 +33,14 @@ TEST_F(ShortcutTest, ControlNOpensTheAgentWorkspace) {
   expectAddress(origin + agentPage);
 }
 
+TEST_F(ShortcutTest, TheToolkitsOwnDeveloperWindowStaysShut) {
+  start();
+  for (const auto* keys : {"ctrl+shift+i", "ctrl+shift+d", "ctrl+comma"})
+    client().type(keys); // it would take the focus, and the last of the keys
+  EXPECT_TRUE(eventually([&] { return client().windowWithKeys(); }, Eq("Settings")));
+  EXPECT_THAT(client().windows(), SizeIs(2));
+}
+
 TEST_F(ShortcutTest, ControlBracketsGoBackAndForward) {
   startInField();
   client().press("Pricing");

@@ -60,7 +60,7 @@ TEST_F(FocusTest, TabGoesThroughSidebarToolbarAndPageAndComesOutAgain) {
   stage.servePage("agent.html", "<input onfocus=\"report('first')\"><input onfocus=\"report('second')\">");
   start();
   for (const auto* name : {"Agent workspace", "Connectors", "Browser workspace", "Voice agent", "Pricing",
-                           "Support", "Reload", "Open externally", "WebKitWebView"})
+                           "Support", "Reload", "Open externally", "Page"})
     tabReaches(name);
   tabReachesInPage("first");
   tabReachesInPage("second");

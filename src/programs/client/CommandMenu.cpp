@@ -1,6 +1,7 @@
 #include "programs/client/CommandMenu.h"
 
 #include "client/DesktopBrowserModel.h"
+#include "layout/accessible.h"
 #include "observation/observe.h"
 
 namespace quorvel {
@@ -17,6 +18,7 @@ Glib::RefPtr<Gio::Menu> menuBar(const CommandGroup& commands) {
 CommandMenu::CommandMenu(const CommandGroup& commands, DesktopBrowserModel& browser,
                          Gtk::Application& application)
     : Gtk::PopoverMenuBar(menuBar(commands)), commands_(commands), application_(application) {
+  setAccessibleName(*this, "Commands");
   observe(browser, *this, &CommandMenu::refresh);
 }
 

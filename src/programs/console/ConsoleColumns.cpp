@@ -24,7 +24,7 @@ ConsoleColumns::ConsoleColumns(WorkspaceStore& store, Preferences& preferences)
     : sidebar_(*Gtk::make_managed<SidebarView>(store)),
       detail_(*Gtk::make_managed<DetailView>(store, preferences)),
       // It does not scroll by itself, and a window may be lower than it.
-      inspector_(*verticalScroller(Gtk::make_managed<InspectorPanel>(store))) {
+      inspector_(*verticalScroller("Inspector", Gtk::make_managed<InspectorPanel>(store))) {
   add_css_class("console-columns");
   for (auto* column : {&sidebar_, &detail_, &inspector_})
     append(*column);

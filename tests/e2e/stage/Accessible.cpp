@@ -72,9 +72,9 @@ Variant Accessible::ask(const char* interface, const char* method, const char* a
   return call(bus(), program_, path_, interface, method, nullptr, answer);
 }
 
-Variant Accessible::property(const char* name, const char* type) const {
+Variant Accessible::property(const char* interface, const char* name, const char* type) const {
   const auto answer = call(bus(), program_, path_, "org.freedesktop.DBus.Properties", "Get",
-                           g_variant_new("(ss)", objects, name), "(v)");
+                           g_variant_new("(ss)", interface, name), "(v)");
   GVariant* value = nullptr;
   if (answer)
     g_variant_get(answer.get(), "(v)", &value);
@@ -91,7 +91,7 @@ std::optional<Accessible> Accessible::ofProcess(pid_t id) {
 }
 
 std::string Accessible::name() const {
-  const auto name = property("Name", "s");
+  const auto name = property(objects, "Name", "s");
   return name ? g_variant_get_string(name.get(), nullptr) : "";
 }
 
@@ -114,6 +114,11 @@ bool Accessible::is(AtspiStateType state) const {
   return word < count && (bits[word] >> (state % 32) & 1U);
 }
 
+std::optional<double> Accessible::value() const {
+  const auto value = property("org.a11y.atspi.Value", "CurrentValue", "d");
+  return value ? std::optional(g_variant_get_double(value.get())) : std::nullopt;
+}
+
 std::vector<Accessible> Accessible::children() const {
   std::vector<Accessible> result;
   const auto answer = ask(objects, "GetChildren", "(a(so))");
@@ -124,7 +129,7 @@ std::vector<Accessible> Accessible::children() const {
 }
 
 std::optional<Accessible> Accessible::parent() const {
-  const auto reference = property("Parent", "(so)");
+  const auto reference = property(objects, "Parent", "(so)");
   return reference ? std::optional(Accessible(reference)) : std::nullopt;
 }
 

@@ -25,6 +25,8 @@ class Accessible {
   std::string name() const;
   AtspiRole role() const;
   bool is(AtspiStateType state) const;
+  /// How far a progress bar, or whatever else has one, has come.
+  std::optional<double> value() const;
   std::vector<Accessible> children() const;
   std::optional<Accessible> parent() const;
 
@@ -41,7 +43,7 @@ class Accessible {
   explicit Accessible(const Variant& reference);
   void collect(std::vector<Accessible>& found) const;
   Variant ask(const char* interface, const char* method, const char* answer) const;
-  Variant property(const char* name, const char* type) const;
+  Variant property(const char* interface, const char* name, const char* type) const;
 
   /// The program's name on the bus, and the object's path there.
   std::string program_;

@@ -67,7 +67,7 @@ void Client::lookAround() const {
     controls_.insert_or_assign(name, object);
     if (object.role() == ATSPI_ROLE_PUSH_BUTTON)
       buttons_.push_back(object);
-    if (name == "WebKitWebView")
+    if (name == "Page")
       if (const auto view = object.parent())
         pageArea_ = view->parent();
   }

@@ -1,0 +1,25 @@
+#include "layout/accessible.h"
+
+#include <gtk/gtk.h>
+
+namespace quorvel {
+
+void setAccessibleName(Gtk::Widget& widget, const Glib::ustring& name) {
+  gtk_accessible_update_property(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_PROPERTY_LABEL, name.c_str(),
+                                 -1);
+}
+
+void setAccessibleDescription(Gtk::Widget& widget, const Glib::ustring& description) {
+  gtk_accessible_update_property(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_PROPERTY_DESCRIPTION,
+                                 description.c_str(), -1);
+}
+
+void setAccessiblyHidden(Gtk::Widget& widget) {
+  gtk_accessible_update_state(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_STATE_HIDDEN, TRUE, -1);
+}
+
+void setAccessibleSelected(Gtk::Widget& widget, bool isSelected) {
+  gtk_accessible_update_state(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_STATE_SELECTED, isSelected, -1);
+}
+
+} // namespace quorvel
