@@ -199,11 +199,11 @@ row 10
 ground white/0.05 round 7, line white/0.058
 button 28 high
 inset 12 0
-*chevron.left 16 400 white/0.28
+*chevron.left 16 400 white/0.5
 ground white/0.05 round 7, line white/0.058
 button 28 high
 inset 12 0
-*chevron.right 16 400 white/0.28
+*chevron.right 16 400 white/0.5
 ground white/0.08 round 7, line white/0.115
 button 28 high
 inset 12 0

@@ -644,11 +644,11 @@ spacer
 ground white/0.05 round 7, line white/0.058
 button 28 high
 inset 12 0
-"Pause" 13 500 white/0.28
+"Pause" 13 500 white/0.5
 ground white/0.05 round 7, line white/0.058
 button 28 high
 inset 12 0
-"Approve" 13 600 white/0.28
+"Approve" 13 600 white/0.5
 shadow black/0.22 0 12 16, ground panel round 10, line white/0.115 round 10
 padded 18
 column 16
@@ -672,11 +672,11 @@ spacer
 ground white/0.05 round 7, line white/0.058
 button 28 high
 inset 12 0
-"Pause" 13 500 white/0.28
+"Pause" 13 500 white/0.5
 ground white/0.05 round 7, line white/0.058
 button 28 high
 inset 12 0
-"Approve" 13 600 white/0.28
+"Approve" 13 600 white/0.5
 )",
                             store);
 }
@@ -723,7 +723,7 @@ column 5
 row 8
 "Not connected" 11 400 white/0.55
 spacer
-ground white/0.16 capsule
+ground white/0.36 capsule
 switch
 )",
                              store);
