@@ -1,6 +1,6 @@
 #include "engine/makeView.h"
 
-#include "engine/historyKeys.h"
+#include "engine/pageKeys.h"
 #include "engine/permissions.h"
 #include "engine/swipes.h"
 
@@ -37,7 +37,7 @@ GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   refusePermissions(WEBKIT_WEB_VIEW(view));
   allowSwipes(WEBKIT_WEB_VIEW(view));
   keepTabMoving(WEBKIT_WEB_VIEW(view));
-  goThroughHistoryByKey(WEBKIT_WEB_VIEW(view));
+  answerKeysThePageLeaves(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }
 

@@ -48,6 +48,37 @@ TEST_F(HabitTest, F5Reloads) {
   EXPECT_TRUE(eventually([&] { return stage.requests().count("/pricing.html"); }, Eq(2)));
 }
 
+class UndoTest : public HabitTest {
+ protected:
+  static constexpr auto tells = "document.querySelector('textarea').oninput ="
+                                "  event => report('text=' + event.target.value);";
+  void expectText(const std::string& text, int times) {
+    EXPECT_TRUE(eventually([&] { return std::ranges::count(stage.reports(), "text=" + text); }, Eq(times)));
+  }
+};
+
+TEST_F(UndoTest, ControlZTakesBackWhatWasTypedAndWithShiftBringsItBack) {
+  startInSecondPage(tells);
+  client().write("ab");
+  expectText("ab", 1);
+  client().type("ctrl+z");
+  expectText("", 1);
+  client().type("ctrl+shift+z");
+  expectText("ab", 2);
+}
+
+TEST_F(UndoTest, APageThatUsesTheKeyItselfKeepsIt) {
+  startInSecondPage(std::string(tells) + "addEventListener('keydown', event => {"
+                                         "  if (event.key != 'z') return;"
+                                         "  event.preventDefault(); report('own-use'); });");
+  client().write("ab");
+  expectText("ab", 1);
+  client().type("ctrl+z");
+  EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains("own-use")));
+  client().write("c");
+  expectText("abc", 1);
+}
+
 TEST_F(HabitTest, OutsideThePageTheKeysActToo) {
   start();
   client().press("Pricing");
