@@ -5,6 +5,16 @@ namespace {
 
 using StartTest = ClientTest;
 
+TEST_F(StartTest, NormalUsePrintsNothing) {
+  start();
+  client().type("ctrl+comma");
+  EXPECT_TRUE(eventually([&] { return client().windowWithKeys(); }, Eq("Settings")));
+  client().press("Pricing");
+  waitForPage("/pricing.html");
+  quit();
+  EXPECT_EQ(client().said(), "");
+}
+
 TEST_F(StartTest, TheFirstRequestIsTheAgentPageAndNamesTheClient) {
   start();
   ASSERT_TRUE(eventually([&] { return !stage.requests().requests().empty(); }));
