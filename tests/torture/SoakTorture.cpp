@@ -75,7 +75,7 @@ TEST_F(SoakTorture, ThousandsOfNavigationsCostTheWindowNextToNoMemory) {
   launch();
   const auto course = courseOf(client().process().id(), "client");
   quit();
-  const ChildProcess bareWindow({QUORVEL_BARE_VIEW, origin + "/wander.html?bare-window:0"}, {});
+  const ChildProcess bareWindow({QUORVEL_BARE_VIEW, "/wander.html?bare-window:0"}, {});
   courseOf(bareWindow.id(), "bare-window");
 
   EXPECT_LE(growth(course), 60);

@@ -80,10 +80,24 @@ TEST_F(HostilePageTest, BackLeadsOutOfAHangingPageAndForwardToItAgain) {
   expectArrival("/hostile.html", "Recovered");
 }
 
+/// Stops every process of a page as long as it exists. One that stayed stopped would outlive the test.
+class StoppedProcesses {
+ public:
+  StoppedProcesses() { signal(SIGSTOP); }
+  ~StoppedProcesses() { signal(SIGCONT); }
+
+ private:
+  void signal(int number) const {
+    for (const auto& page : pages_)
+      ::kill(page.id(), number);
+  }
+
+  const std::vector<SystemProcess> pages_ = SystemProcess::ourselves().descendants("WebKitWebProcess");
+};
+
 TEST_F(HostilePageTest, AStoppedProcessMakesWayToo) {
   show("/agent.html");
-  for (const auto& page : SystemProcess::ourselves().descendants("WebKitWebProcess"))
-    ::kill(page.id(), SIGSTOP);
+  const StoppedProcesses stopped;
   model->load(server.address("/pricing.html"));
   expectArrival("/pricing.html", "Pricing");
 }

@@ -65,7 +65,8 @@ TEST_F(ClientHeldKeyTest, GoesBackByOnePage) {
 }
 
 TEST_F(ClientHeldKeyTest, PressesEveryButtonOnce) {
-  const auto buttons = tests::all<Gtk::Button>(*tests::all<ContentView>(*window).front());
+  auto buttons = tests::all<Gtk::Button>(*tests::all<ContentView>(*window).front());
+  std::erase_if(buttons, [](auto* button) { return !button->get_mapped(); }); // those of a page's dialogs
   EXPECT_GE(buttons.size(), 11U);
   for (auto* button : buttons) {
     button->set_sensitive(true);
@@ -73,7 +74,7 @@ TEST_F(ClientHeldKeyTest, PressesEveryButtonOnce) {
     const auto counting = button->signal_clicked().connect([&] { ++presses; });
     focusOn(*button);
     holdKey("Return", *window);
-    EXPECT_EQ(presses, 1) << tests::texts(*button).front();
+    EXPECT_EQ(presses, 1) << ::testing::PrintToString(tests::texts(*button));
     sigc::connection(counting).disconnect();
   }
 }
