@@ -4,8 +4,11 @@
 #include "layout/stacks.h"
 
 #include <functional>
+#include <gtkmm/box.h>
+#include <gtkmm/button.h>
 #include <gtkmm/checkbutton.h>
 #include <gtkmm/entry.h>
+#include <gtkmm/label.h>
 #include <optional>
 
 namespace quorvel {

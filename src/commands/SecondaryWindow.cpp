@@ -1,5 +1,6 @@
 #include "commands/SecondaryWindow.h"
 
+#include <gtkmm/application.h>
 #include <gtkmm/shortcutcontroller.h>
 
 namespace quorvel {

@@ -2,7 +2,6 @@
 
 #include "engine/reserveFile.h"
 
-#include <algorithm>
 #include <fstream>
 #include <glib/gstdio.h>
 #include <glibmm/fileutils.h>

@@ -3,6 +3,7 @@
 #include "layout/accessible.h"
 
 #include <gtk/gtk.h>
+#include <gtkmm/scrollbar.h>
 #include <gtkmm/separator.h>
 
 namespace quorvel {

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <fstream>
 #include <gmock/gmock.h>
-#include <set>
 #include <sstream>
 #include <string>
 #include <vector>

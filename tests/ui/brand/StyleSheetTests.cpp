@@ -1,7 +1,5 @@
 #include "brand/StyleSheet.h"
 
-#include "support/TestWindow.h"
-
 #include <gmock/gmock.h>
 #include <regex>
 #include <set>

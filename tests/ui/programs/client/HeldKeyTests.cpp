@@ -16,7 +16,7 @@ using tests::holdKey;
 class ClientHeldKeyTest : public ModelTest {
  protected:
   static void SetUpTestSuite() {
-    application = Gtk::Application::create("com.quorvel.Test");
+    application = Gtk::Application::create("com.quorvel.Test", Gio::Application::Flags::NON_UNIQUE);
     application->register_application();
   }
   static void TearDownTestSuite() { application.reset(); }

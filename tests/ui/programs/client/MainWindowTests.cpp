@@ -18,7 +18,7 @@ using ::testing::SizeIs;
 class MainWindowTest : public ModelTest {
  protected:
   static void SetUpTestSuite() {
-    application = Gtk::Application::create("com.quorvel.Test");
+    application = Gtk::Application::create("com.quorvel.Test", Gio::Application::Flags::NON_UNIQUE);
     application->register_application();
   }
   static void TearDownTestSuite() { application.reset(); }
