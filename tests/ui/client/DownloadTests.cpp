@@ -28,6 +28,9 @@ class DownloadTest : public ModelTest {
     });
   }
   void TearDown() override {
+    // A page's process that was still starting would miss the folders that go with this test.
+    if (model)
+      show("/agent.html");
     fs::remove(userFolders);
     g_reload_user_special_dirs_cache();
   }

@@ -1,6 +1,5 @@
 #include "client/ContentView.h"
 #include "client/DesktopClientSidebar.h"
-#include "client/PageDialogView.h"
 #include "support/RealInput.h"
 #include "support/TextChecks.h"
 #include "ui/client/ModelTest.h"
