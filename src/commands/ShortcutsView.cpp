@@ -39,4 +39,8 @@ ShortcutsView::ShortcutsView(std::initializer_list<CommandBlock> blocks) : VStac
     add({block(heading, commands)});
 }
 
+std::unique_ptr<SecondaryWindow> makeShortcutsWindow(std::initializer_list<CommandBlock> blocks) {
+  return std::make_unique<SecondaryWindow>("Keyboard Shortcuts", *Gtk::make_managed<ShortcutsView>(blocks));
+}
+
 } // namespace quorvel

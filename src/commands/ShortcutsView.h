@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/CommandGroup.h"
+#include "commands/SecondaryWindow.h"
 #include "layout/stacks.h"
 
 namespace quorvel {
@@ -14,7 +15,10 @@ struct CommandBlock {
 /// Every command that has a key, in the order of the menus.
 class ShortcutsView : public VStack {
  public:
-  ShortcutsView(std::initializer_list<CommandBlock> blocks);
+  explicit ShortcutsView(std::initializer_list<CommandBlock> blocks);
 };
+
+/// A window with that.
+std::unique_ptr<SecondaryWindow> makeShortcutsWindow(std::initializer_list<CommandBlock> blocks);
 
 } // namespace quorvel

@@ -1,16 +1,13 @@
 #include "engine/CommandRunner.h"
 
+#include "engine/engineTexts.h"
+
 #include <glibmm/main.h>
 #include <memory>
 #include <utility>
 
 namespace quorvel {
 namespace {
-
-std::string addressOf(WebKitWebView* view) {
-  const char* address = webkit_web_view_get_uri(view);
-  return address ? address : "";
-}
 
 std::string withoutFragment(const std::string& address) {
   return address.substr(0, address.find('#'));

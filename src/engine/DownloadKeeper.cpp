@@ -1,5 +1,6 @@
 #include "engine/DownloadKeeper.h"
 
+#include "engine/engineTexts.h"
 #include "engine/reserveFile.h"
 
 #include <fstream>
@@ -31,8 +32,7 @@ void removeTracesOfLastRun(const std::string& record) {
 }
 
 std::string destination(WebKitDownload* download) {
-  const char* path = webkit_download_get_destination(download);
-  return path ? path : "";
+  return textOrNothing(webkit_download_get_destination(download));
 }
 
 } // namespace

@@ -1,16 +1,10 @@
 #include "engine/LoadWatchdog.h"
 
+#include "engine/engineTexts.h"
+
 #include <utility>
 
 namespace quorvel {
-namespace {
-
-std::string addressOf(WebKitWebView* view) {
-  const char* address = webkit_web_view_get_uri(view);
-  return address ? address : "";
-}
-
-} // namespace
 
 LoadWatchdog::LoadWatchdog(WebKitWebView* view, TimerFunction startTimer, Owner owner)
     : view_(view), startTimer_(startTimer), owner_(std::move(owner)),

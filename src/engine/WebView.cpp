@@ -8,18 +8,12 @@
 #include "engine/PageSandbox.h"
 #include "engine/UserGestures.h"
 #include "engine/WebSession.h"
+#include "engine/engineTexts.h"
 #include "engine/makeView.h"
 
 #include <utility>
 
 namespace quorvel {
-namespace {
-
-std::string textOrNothing(const char* text) {
-  return text ? text : "";
-}
-
-} // namespace
 
 /// The engine's objects and the answers to their signals.
 class WebView::Engine {
@@ -224,7 +218,7 @@ bool WebView::isLoading() const {
 }
 
 std::string WebView::address() const {
-  const auto address = textOrNothing(webkit_web_view_get_uri(engine_->view()));
+  const auto address = addressOf(engine_->view());
   // While a redirect to a mail address is being refused, the view names it as its own.
   return choose({address}) == NavigationChoice::system ? "" : address;
 }

@@ -29,14 +29,6 @@ constexpr std::array names{
     Name{"slate", {0.35, 0.40, 0.46}},
 };
 
-std::string number(double value) {
-  auto digits = std::to_string(std::round(value * 1000) / 1000);
-  digits.erase(digits.find_last_not_of('0') + 1);
-  if (digits.back() == '.')
-    digits.pop_back();
-  return digits;
-}
-
 std::string nameOf(const GdkRGBA& color, double opacity) {
   return colorName({color.red, color.green, color.blue, color.alpha * opacity});
 }
@@ -91,6 +83,14 @@ std::string border(GskRenderNode* node, double opacity) {
 }
 
 } // namespace
+
+std::string number(double value) {
+  auto digits = std::to_string(std::round(value * 1000) / 1000);
+  digits.erase(digits.find_last_not_of('0') + 1);
+  if (digits.back() == '.')
+    digits.pop_back();
+  return digits;
+}
 
 Drawing::Drawing(Gtk::Window& window) {
   const auto paintable = Gtk::WidgetPaintable::create(window);

@@ -28,6 +28,8 @@ class Drawing {
   std::vector<Stroke> strokes_;
 };
 
+/// A number of a look, as short as it can be written with three digits behind the point.
+std::string number(double value);
 /// The palette's name of a colour, or its components; what shines through follows: "white/0.115".
 std::string colorName(const Color& color);
 

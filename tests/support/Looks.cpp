@@ -10,14 +10,6 @@
 namespace quorvel::tests {
 namespace {
 
-std::string number(double value) {
-  auto digits = std::to_string(std::round(value * 1000) / 1000);
-  digits.erase(digits.find_last_not_of('0') + 1);
-  if (digits.back() == '.')
-    digits.pop_back();
-  return digits;
-}
-
 bool isSpacer(Gtk::Widget& widget) {
   return typeid(widget) == typeid(Gtk::Box) && !widget.get_first_child() &&
          (widget.get_hexpand() || widget.get_vexpand()) && widget.get_css_classes().size() <= 1;

@@ -71,9 +71,7 @@ void QuorvelApp::end() {
 
 void QuorvelApp::makeCommands() {
   const auto makeShortcuts = [this] {
-    const std::initializer_list<CommandBlock> blocks{{"Quorvel", commands_->client},
-                                                     {"Program", commands_->program}};
-    return std::make_unique<SecondaryWindow>("Keyboard Shortcuts", *Gtk::make_managed<ShortcutsView>(blocks));
+    return makeShortcutsWindow({{"Quorvel", commands_->client}, {"Program", commands_->program}});
   };
   commands_.emplace(
       *browser_,

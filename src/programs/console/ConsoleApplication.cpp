@@ -73,8 +73,7 @@ CommandGroup ConsoleApplication::sectionCommands() {
 
 CommandGroup ConsoleApplication::ownCommands() {
   const auto makeShortcuts = [this] {
-    const std::initializer_list<CommandBlock> blocks{{"Section", sections_}, {"Program", program_}};
-    return std::make_unique<SecondaryWindow>("Keyboard Shortcuts", *Gtk::make_managed<ShortcutsView>(blocks));
+    return makeShortcutsWindow({{"Section", sections_}, {"Program", program_}});
   };
   return {
       "_Program",

@@ -18,6 +18,13 @@ Variant call(GDBusConnection* bus, const std::string& program, const std::string
                                              nullptr, nullptr));
 }
 
+bool isYes(const Variant& answer) {
+  gboolean yes = false;
+  if (answer)
+    g_variant_get(answer.get(), "(b)", &yes);
+  return yes;
+}
+
 GDBusConnection* connectTo(const char* address) {
   constexpr auto asAProgram = static_cast<GDBusConnectionFlags>(
       G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT | G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
@@ -146,20 +153,12 @@ std::vector<Accessible> Accessible::all() const {
 }
 
 bool Accessible::activate() const {
-  const auto answer =
-      call(bus(), program_, path_, "org.a11y.atspi.Action", "DoAction", g_variant_new("(i)", 0), "(b)");
-  gboolean done = false;
-  if (answer)
-    g_variant_get(answer.get(), "(b)", &done);
-  return done;
+  return isYes(
+      call(bus(), program_, path_, "org.a11y.atspi.Action", "DoAction", g_variant_new("(i)", 0), "(b)"));
 }
 
 bool Accessible::grabFocus() const {
-  const auto answer = ask("org.a11y.atspi.Component", "GrabFocus", "(b)");
-  gboolean done = false;
-  if (answer)
-    g_variant_get(answer.get(), "(b)", &done);
-  return done;
+  return isYes(ask("org.a11y.atspi.Component", "GrabFocus", "(b)"));
 }
 
 std::string describe(const Accessible& object, int depth) {

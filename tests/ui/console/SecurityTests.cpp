@@ -168,7 +168,7 @@ TEST_F(SecurityTest, WithAnEmptyListTheCardShowsOnlyItsHeading) {
   drawFrame(view_);
   EXPECT_THAT(texts(profile()), ElementsAre("Current approval profile"));
   EXPECT_EQ(profile().get_height(), labelled(profile(), "Current approval profile")->get_height() + 2 * 18);
-  const auto fresh = SampleData::approvals();
+  const auto& fresh = SampleData::approvals();
   store_.approvals = fresh;
   drawFrame(view_);
   EXPECT_EQ(all<StatusPill>(profile()).size(), fresh.size());

@@ -3,7 +3,7 @@
 #include "client/ContentView.h"
 #include "commands/PrimaryMenu.h"
 #include "support/RealInput.h"
-#include "ui/client/ModelTest.h"
+#include "ui/programs/client/MainWindowFixture.h"
 
 namespace quorvel {
 namespace {
@@ -12,28 +12,15 @@ using ::testing::SizeIs;
 using tests::focusOn;
 using tests::holdKey;
 
-/// The program's window on a real model, under a real keyboard.
-class ClientHeldKeyTest : public ModelTest {
+/// Under a real keyboard.
+class ClientHeldKeyTest : public MainWindowFixture {
  protected:
-  static void SetUpTestSuite() {
-    application = Gtk::Application::create("com.quorvel.Test", Gio::Application::Flags::NON_UNIQUE);
-    application->register_application();
+  Commands::Program program() override {
+    return {.showSettings = [this] { ++settingsShown; },
+            .showShortcuts = [] {},
+            .showAbout = [] {},
+            .quit = [] {}};
   }
-  static void TearDownTestSuite() { application.reset(); }
-
-  void SetUp() override {
-    show("/agent.html");
-    commands.emplace(*model, Commands::Program{.showSettings = [this] { ++settingsShown; },
-                                               .showShortcuts = [] {},
-                                               .showAbout = [] {},
-                                               .quit = [] {}});
-    commands->addTo(*application);
-    window = std::make_unique<MainWindow>(*model, *application, *commands);
-    application->add_window(*window);
-    window->present();
-    ASSERT_TRUE(tests::eventually([&] { return window->get_mapped() && window->get_width() > 0; }));
-  }
-  void TearDown() override { window->close(); }
 
   void hold(const char* key, const char* button) {
     focusOn(*tests::buttonNamed(*window, button));
@@ -42,9 +29,6 @@ class ClientHeldKeyTest : public ModelTest {
   }
 
   int settingsShown = 0;
-  static inline Glib::RefPtr<Gtk::Application> application;
-  std::optional<Commands> commands;
-  std::unique_ptr<MainWindow> window;
 };
 
 TEST_F(ClientHeldKeyTest, ReloadsOnce) {

@@ -6,7 +6,7 @@
 #include "programs/client/habits.h"
 #include "support/RealInput.h"
 #include "support/RightToLeft.h"
-#include "ui/client/ModelTest.h"
+#include "ui/programs/client/MainWindowFixture.h"
 
 namespace quorvel {
 namespace {
@@ -14,26 +14,13 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::SizeIs;
 
-/// The program's window with its menus, on a real model.
-class MainWindowTest : public ModelTest {
+/// With its menus, and the key that closes a window.
+class MainWindowTest : public MainWindowFixture {
  protected:
-  static void SetUpTestSuite() {
-    application = Gtk::Application::create("com.quorvel.Test", Gio::Application::Flags::NON_UNIQUE);
-    application->register_application();
-  }
-  static void TearDownTestSuite() { application.reset(); }
-
   void SetUp() override {
-    show("/agent.html");
-    commands.emplace(*model, Commands::Program{});
-    commands->addTo(*application);
+    MainWindowFixture::SetUp();
     addClosingKey(*application);
-    window = std::make_unique<MainWindow>(*model, *application, *commands);
-    application->add_window(*window);
-    window->present();
-    ASSERT_TRUE(tests::eventually([&] { return window->get_mapped() && window->get_width() > 0; }));
   }
-  void TearDown() override { window->close(); }
 
   CommandMenu& menuBar() { return *tests::all<CommandMenu>(*window).front(); }
   /// Whether the entry with this text can be chosen.
@@ -49,11 +36,6 @@ class MainWindowTest : public ModelTest {
     EXPECT_LE(keys.size(), 1u) << action;
     return keys.empty() ? "" : std::string(keys.front());
   }
-
-  // A process has one application.
-  static inline Glib::RefPtr<Gtk::Application> application;
-  std::optional<Commands> commands;
-  std::unique_ptr<MainWindow> window;
 };
 
 /// The texts of a menu as they are read, a dash for each divider.
