@@ -22,11 +22,11 @@ class HostilePageTest : public ModelTest {
   /// Shows a page that does this a moment after it has loaded.
   void showPageThat(const std::string& does) {
     server.page("/armed", "");
-    server.page("/hostile.html",
-                "<title>Hostile</title><form id=form action=/elsewhere.html></form>"
-                "<a id=link href=/elsewhere.html></a><script>let n = 0;"
-                "function arm() { const r = new XMLHttpRequest; r.open('GET', '/armed', false); r.send(); " +
-                    does + " } addEventListener('load', () => setTimeout(arm, 50))</script>");
+    server.page("/hostile.html", "<title>Hostile</title><form id=form action=/elsewhere.html></form>"
+                                 "<a id=link href=/elsewhere.html></a><script>let n = 0;"
+                                 "function arm() { navigator.sendBeacon('/armed'); " +
+                                     does +
+                                     " } addEventListener('load', () => setTimeout(arm, 50))</script>");
     showHostilePage();
   }
   void showHostilePage() {
@@ -52,10 +52,8 @@ TEST_F(HostilePageTest, ReloadBringsAHangingPageBack) {
 }
 
 TEST_F(HostilePageTest, ReloadBringsBackAPageThatHangsWhileItLoads) {
-  server.page(
-      "/hang.html",
-      "<title>Hang</title><script>const r = new XMLHttpRequest; r.open('GET', '/armed', false); r.send();" +
-          std::string(hang) + "</script>");
+  server.page("/hang.html", "<title>Hang</title><script>navigator.sendBeacon('/armed'); " +
+                                std::string(hang) + "</script>");
   model->load(server.address("/hang.html"));
   ASSERT_TRUE(tests::eventually([&] { return server.count("/armed") > 0; }));
   server.page("/hang.html", "<title>Recovered</title>");

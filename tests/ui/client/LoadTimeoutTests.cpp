@@ -162,8 +162,7 @@ TEST_F(LoadTimeoutTest, WhatAPageLoadsBesidesDoesNotCountForItsRequest) {
 
 TEST_F(LoadTimeoutTest, APageThatComputesForEverEndsTheLoadingState) {
   server.page("/hang.html",
-              "<title>Hang</title><script>const r = new XMLHttpRequest; r.open('GET', '/armed', false);"
-              "r.send(); while (true) {}</script>");
+              "<title>Hang</title><script>navigator.sendBeacon('/armed'); while (true) {}</script>");
   model->load(server.address("/hang.html"));
   ASSERT_TRUE(tests::eventually([&] { return server.count("/armed") > 0 && *model->isLoading; }));
   timer.letOff();

@@ -8,6 +8,13 @@ ModelTest::ModelTest() {
   start();
 }
 
+// A page that computes for ever would keep its process, and with it whoever reads what the tests say, for 10
+// s.
+ModelTest::~ModelTest() {
+  if (model)
+    webkit_web_view_terminate_web_process(webView());
+}
+
 void ModelTest::start(const std::string& name) {
   model.reset();
   model = std::make_unique<DesktopBrowserModel>(DesktopBrowserModel::Surroundings{

@@ -38,7 +38,7 @@ class ManualTimer {
 class ModelTest : public ::testing::Test {
  protected:
   ModelTest();
-  ~ModelTest() override { model.reset(); }
+  ~ModelTest() override;
 
   /// Starts the program's model anew, in the folders `folder`/`name`/data and cache.
   void start(const std::string& name = "user");
