@@ -67,16 +67,6 @@ void redirect(SoupServerMessage* message, GHashTable* query) {
   goOn(message, parameter(query, "to", "/"));
 }
 
-void offerFile(SoupServerMessage* message, GHashTable* query) {
-  respond(message, SOUP_STATUS_OK, "application/octet-stream", "The brief of the day.\n");
-  GHashTable* parameters = soup_header_parse_param_list("");
-  const auto name = parameter(query, "name", "brief.txt");
-  g_hash_table_insert(parameters, g_strdup("filename"), g_strdup(name.c_str()));
-  soup_message_headers_set_content_disposition(soup_server_message_get_response_headers(message),
-                                               "attachment", parameters);
-  soup_header_free_param_list(parameters);
-}
-
 void append(SoupServerMessage* message, const std::string& text) {
   soup_message_body_append(soup_server_message_get_response_body(message), SOUP_MEMORY_COPY, text.data(),
                            text.size());
@@ -122,6 +112,19 @@ void drip(SoupServerMessage* message, GHashTable* query) {
   const auto drip = new Drip{message, number(query, "seconds", 1, 3600)};
   drip->timer = g_timeout_add_seconds(1, letDrip, drip);
   g_signal_connect(message, "finished", G_CALLBACK(endDrip), drip);
+}
+
+void offerFile(SoupServerMessage* message, GHashTable* query) {
+  if (parameter(query, "seconds", "").empty())
+    respond(message, SOUP_STATUS_OK, "application/octet-stream", "The brief of the day.\n");
+  else
+    drip(message, query);
+  GHashTable* parameters = soup_header_parse_param_list("");
+  const auto name = parameter(query, "name", "brief.txt");
+  g_hash_table_insert(parameters, g_strdup("filename"), g_strdup(name.c_str()));
+  soup_message_headers_set_content_disposition(soup_server_message_get_response_headers(message),
+                                               "attachment", parameters);
+  soup_header_free_param_list(parameters);
 }
 
 void resetConnection(SoupServerMessage* message, guint, gpointer) {

@@ -15,7 +15,7 @@ using StagedReply = void (*)(SoupServerMessage* message, GHashTable* query);
 ///   /report            takes note (in the log) of what a page says of itself; no content
 ///   /status?code=N     an answer with that status
 ///   /redirect?to=URL   sends the browser there, whatever the scheme
-///   /download?name=N   a file to keep
+///   /download?name=N   a file to keep; with &seconds=S it takes its time
 ///   /slow?seconds=N    one more paragraph every second
 ///   /silent            takes the request and never answers
 ///   /cut-off           resets the connection in the middle of the body

@@ -3,6 +3,7 @@
 #include "client/DesktopBrowserModel.h"
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
+#include "client/DownloadsView.h"
 #include "client/PageDialogView.h"
 #include "client/QuorvelWebView.h"
 #include "client/WarningBar.h"
@@ -54,8 +55,9 @@ ContentView::ContentView(DesktopBrowserModel& browser)
   auto* sidebar =
       Gtk::make_managed<Frame>(Frame::Size{.width = 306}, *Gtk::make_managed<DesktopClientSidebar>(browser));
   auto* line = decorative(Gtk::make_managed<Gtk::Separator>(Gtk::Orientation::VERTICAL));
-  auto* page = vstack(
-      0, {Gtk::make_managed<DesktopClientToolbar>(browser), warning_, pageArea(browser, dialog_, spinner_)});
+  auto* page =
+      vstack(0, {Gtk::make_managed<DesktopClientToolbar>(browser), stretched(warning_),
+                 pageArea(browser, dialog_, spinner_), stretched(Gtk::make_managed<DownloadsView>(browser))});
   add({sidebar, tall(line), page});
   observe(browser, *this, &ContentView::refresh);
 }

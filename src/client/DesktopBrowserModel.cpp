@@ -8,7 +8,8 @@ namespace quorvel {
 DesktopBrowserModel::DesktopBrowserModel() : DesktopBrowserModel(Surroundings{}) {}
 
 DesktopBrowserModel::DesktopBrowserModel(Surroundings surroundings)
-    : openInSystem_(std::move(surroundings.openInSystem)),
+    : downloads(surroundings.startTimer), openInSystem_(std::move(surroundings.openInSystem)),
+      showInFolder_(std::move(surroundings.showInFolder)),
       webView_(surroundings.folders, std::move(surroundings.startTimer), viewOwner()) {
   load(QuorvelRoute::agent);
 }
@@ -18,6 +19,7 @@ WebView::Owner DesktopBrowserModel::viewOwner() {
           .openInSystem = openInSystem_,
           .openWindow = [this](const std::string& address) { load(address); },
           .onDialog = [this](const std::optional<PageDialog>& asked) { dialog = asked; },
+          .onDownload = [this](const Download& download) { downloads.show(download); },
           .onUnconfined = [this](const std::string& text) { warning = text; }};
 }
 
@@ -54,6 +56,14 @@ bool DesktopBrowserModel::isShowing(QuorvelRoute route) const {
 
 void DesktopBrowserModel::answer(const DialogAnswer& answer) {
   webView_.answer(answer);
+}
+
+void DesktopBrowserModel::cancel(const Download& download) {
+  webView_.cancelDownload(download.id);
+}
+
+void DesktopBrowserModel::showInFolder(const Download& download) {
+  showInFolder_(download.path);
 }
 
 void DesktopBrowserModel::updateState() {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "client/QuorvelRoute.h"
+#include "client/ShownDownloads.h"
 #include "client/openInSystem.h"
+#include "client/showInFolder.h"
 #include "engine/WebView.h"
 #include "observation/ObservableObject.h"
 #include "observation/Published.h"
@@ -24,6 +26,7 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   struct Surroundings {
     WebFolders folders = WebFolders::ofUser();
     std::function<void(const std::string& address)> openInSystem = quorvel::openInSystem;
+    std::function<void(const std::string& path)> showInFolder = quorvel::showInFolder;
     TimerFunction startTimer = mainLoopTimer();
   };
 
@@ -41,6 +44,8 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   Published<std::string> warning{*this, ""};
   /// What the page wants to have said or asked before it goes on.
   Published<std::optional<PageDialog>> dialog{*this, std::nullopt};
+  /// What pages download. It announces its changes itself: there are many, and they concern one line.
+  ShownDownloads downloads;
 
   void load(QuorvelRoute route);
   void load(const std::string& address);
@@ -52,6 +57,10 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   bool isShowing(QuorvelRoute route) const;
   /// Answers the page's dialog; without one nothing happens.
   void answer(const DialogAnswer& answer);
+  /// Breaks off a download that is under way.
+  void cancel(const Download& download);
+  /// Has the file manager show a file that was downloaded.
+  void showInFolder(const Download& download);
 
   /// The one view, for a host to place; it stays the model's.
   WebView& webView() { return webView_; }
@@ -61,7 +70,7 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   void updateState();
   void copyState();
 
-  std::function<void(const std::string&)> openInSystem_;
+  std::function<void(const std::string&)> openInSystem_, showInFolder_;
   WebView webView_;
 };
 

@@ -1,12 +1,13 @@
 #include "engine/DownloadKeeper.h"
 
-#include "engine/engineTexts.h"
 #include "engine/reserveFile.h"
 
+#include <algorithm>
 #include <fstream>
 #include <glib/gstdio.h>
 #include <glibmm/fileutils.h>
 #include <glibmm/miscutils.h>
+#include <memory>
 #include <utility>
 
 namespace quorvel {
@@ -17,6 +18,8 @@ constexpr auto partSuffix = ".wkdownload";
 
 /// What there is of a download that did not come to its end. A file that has content is the user's.
 void removeTraces(const std::string& path) {
+  if (path.empty())
+    return;
   GStatBuf status{};
   if (g_lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size == 0)
     g_unlink(path.c_str());
@@ -31,8 +34,21 @@ void removeTracesOfLastRun(const std::string& record) {
   g_unlink(record.c_str());
 }
 
-std::string destination(WebKitDownload* download) {
-  return textOrNothing(webkit_download_get_destination(download));
+/// Before the server has proposed a name: as the address ends.
+std::string nameInAddress(WebKitDownload* download) {
+  const char* address = webkit_uri_request_get_uri(webkit_download_get_request(download));
+  const std::unique_ptr<GUri, decltype(&g_uri_unref)> parts(
+      address ? g_uri_parse(address, G_URI_FLAGS_PARSE_RELAXED, nullptr) : nullptr, &g_uri_unref);
+  return safeFileName(parts ? g_uri_get_path(parts.get()) : "");
+}
+
+std::uint64_t expectedBytes(WebKitDownload* download) {
+  auto* response = webkit_download_get_response(download);
+  return response ? webkit_uri_response_get_content_length(response) : 0;
+}
+
+void letGo(WebKitDownload* download, DownloadKeeper* keeper) {
+  g_signal_handlers_disconnect_by_data(download, keeper);
 }
 
 } // namespace
@@ -43,9 +59,8 @@ std::string downloadFolder() {
   return isNamed ? folder : Glib::build_filename(Glib::get_home_dir(), "Downloads");
 }
 
-DownloadKeeper::DownloadKeeper(WebKitNetworkSession* session, std::string record,
-                               std::function<bool()> mayStart)
-    : session_(session), record_(std::move(record)), mayStart_(std::move(mayStart)) {
+DownloadKeeper::DownloadKeeper(WebKitNetworkSession* session, std::string record, Owner owner)
+    : session_(session), record_(std::move(record)), owner_(std::move(owner)) {
   removeTracesOfLastRun(record_);
   const auto onStart =
       +[](WebKitNetworkSession*, WebKitDownload* download, DownloadKeeper* self) { self->start(download); };
@@ -54,63 +69,99 @@ DownloadKeeper::DownloadKeeper(WebKitNetworkSession* session, std::string record
 
 DownloadKeeper::~DownloadKeeper() {
   g_signal_handlers_disconnect_by_data(session_, this);
-  for (auto* download : std::exchange(watched_, {})) {
-    g_signal_handlers_disconnect_by_data(download, this);
-    webkit_download_cancel(download);
-    removeTraces(destination(download));
-    g_object_unref(download);
+  for (const auto& [download, seen] : std::exchange(watched_, {})) {
+    letGo(download.get(), this);
+    webkit_download_cancel(download.get());
+    removeTraces(seen.path);
   }
   write();
 }
 
 void DownloadKeeper::start(WebKitDownload* download) {
-  if (!mayStart_()) {
+  if (!owner_.mayStart()) {
     webkit_download_cancel(download);
     return;
   }
-  watched_.push_back(WEBKIT_DOWNLOAD(g_object_ref(download)));
+  watched_.push_back({GObjectPointer<WebKitDownload>(WEBKIT_DOWNLOAD(g_object_ref(download))),
+                      {.id = std::to_string(++count_), .name = nameInAddress(download)}});
   const auto onName = +[](WebKitDownload* started, const char* name, DownloadKeeper* self) -> gboolean {
     self->decideDestination(started, name);
     return TRUE;
   };
   g_signal_connect(download, "decide-destination", G_CALLBACK(onName), this);
-  const auto onFailure =
-      +[](WebKitDownload* failed, GError*, DownloadKeeper* self) { self->forgetFailed(failed); };
+  const auto onData =
+      +[](WebKitDownload* growing, guint64, DownloadKeeper* self) { self->noteProgress(growing); };
+  g_signal_connect(download, "received-data", G_CALLBACK(onData), this);
+  const auto onFailure = +[](WebKitDownload* failed, const GError* error, DownloadKeeper* self) {
+    self->noteFailure(failed, error);
+  };
   g_signal_connect(download, "failed", G_CALLBACK(onFailure), this);
-  const auto onEnd = +[](WebKitDownload* finished, DownloadKeeper* self) { self->end(finished); };
+  const auto onEnd =
+      +[](WebKitDownload* finished, DownloadKeeper* self) { self->end(finished, Download::State::done); };
   g_signal_connect(download, "finished", G_CALLBACK(onEnd), this);
 }
 
 void DownloadKeeper::decideDestination(WebKitDownload* download, const char* suggestedName) {
-  const auto path = reserveFile(downloadFolder(), suggestedName);
+  auto& seen = find(download)->seen;
+  seen.name = safeFileName(suggestedName);
+  const auto path = reserveFile(downloadFolder(), seen.name);
   if (!path) {
+    end(download, Download::State::failed);
     webkit_download_cancel(download);
     return;
   }
   webkit_download_set_allow_overwrite(download, TRUE); // nothing but the file just reserved
   webkit_download_set_destination(download, path->c_str());
+  seen.path = *path;
+  seen.name = Glib::path_get_basename(*path);
   write();
+  noteProgress(download);
 }
 
-void DownloadKeeper::forgetFailed(WebKitDownload* download) {
-  removeTraces(destination(download));
-  end(download);
+void DownloadKeeper::noteProgress(WebKitDownload* download) {
+  auto& seen = find(download)->seen;
+  seen.received = webkit_download_get_received_data_length(download);
+  seen.expected = expectedBytes(download);
+  owner_.onChange(seen);
 }
 
-void DownloadKeeper::end(WebKitDownload* download) {
-  if (std::erase(watched_, download) == 0)
-    return;
+void DownloadKeeper::noteFailure(WebKitDownload* download, const GError* error) {
+  const bool isWanted =
+      g_error_matches(error, WEBKIT_DOWNLOAD_ERROR, WEBKIT_DOWNLOAD_ERROR_CANCELLED_BY_USER);
+  end(download, isWanted ? Download::State::cancelled : Download::State::failed);
+}
+
+void DownloadKeeper::end(WebKitDownload* download, Download::State state) {
+  const auto place = find(download);
+  const Watched ended = std::move(*place);
+  watched_.erase(place);
+  letGo(download, this);
+  Download seen = ended.seen;
+  seen.state = state;
+  if (state != Download::State::done)
+    removeTraces(std::exchange(seen.path, ""));
   write();
-  g_signal_handlers_disconnect_by_data(download, this);
-  g_object_unref(download);
+  owner_.onChange(seen);
+}
+
+void DownloadKeeper::cancel(const std::string& id) {
+  const auto found = std::ranges::find(watched_, id, [](const Watched& each) { return each.seen.id; });
+  if (found != watched_.end())
+    webkit_download_cancel(found->engines.get());
+}
+
+/// Only what is watched tells of itself.
+std::vector<DownloadKeeper::Watched>::iterator DownloadKeeper::find(WebKitDownload* download) {
+  return std::ranges::find(watched_, download, [](const Watched& each) { return each.engines.get(); });
 }
 
 void DownloadKeeper::write() const {
   if (record_.empty())
     return;
   std::string paths;
-  for (auto* download : watched_)
-    paths += destination(download) + '\0';
+  for (const auto& [download, seen] : watched_)
+    if (!seen.path.empty())
+      paths += seen.path + '\0';
   if (paths.empty())
     g_unlink(record_.c_str());
   else

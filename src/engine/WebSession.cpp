@@ -36,9 +36,9 @@ GObjectPointer<WebKitNetworkSession> makeSession(const WebFolders& folders) {
 
 } // namespace
 
-WebSession::WebSession(const WebFolders& folders, std::function<bool()> mayDownload)
+WebSession::WebSession(const WebFolders& folders, DownloadKeeper::Owner downloads)
     : session_(makeSession(folders)),
       downloads_(session_.get(), Glib::build_filename(folders.data, "downloads-under-way"),
-                 std::move(mayDownload)) {}
+                 std::move(downloads)) {}
 
 } // namespace quorvel

@@ -15,10 +15,11 @@ namespace quorvel {
 /// with the program.
 class WebSession {
  public:
-  /// A page's download starts if `mayDownload` says so.
-  WebSession(const WebFolders& folders, std::function<bool()> mayDownload);
+  WebSession(const WebFolders& folders, DownloadKeeper::Owner downloads);
 
   WebKitNetworkSession* get() const { return session_.get(); }
+  /// What its pages download.
+  DownloadKeeper& downloads() { return downloads_; }
 
  private:
   GObjectPointer<WebKitNetworkSession> session_;

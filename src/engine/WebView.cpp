@@ -19,7 +19,8 @@ namespace quorvel {
 class WebView::Engine {
  public:
   Engine(const WebFolders& folders, TimerFunction startTimer, Owner owner)
-      : owner_(std::move(owner)), session_(folders, [this] { return downloads_.take(); }),
+      : owner_(std::move(owner)),
+        session_(folders, {[this] { return downloads_.take(); }, owner_.onDownload}),
         view_(makeView(session_.get())), sandbox_(owner_.onUnconfined),
         commands_(view(), startTimer, {[this] { watchdog_.begin(); }, [this] { return isOwnerInPage_; }}),
         watchdog_(view(), std::move(startTimer), {[this] { commands_.giveUp(); }, owner_.onChange}),
@@ -49,6 +50,7 @@ class WebView::Engine {
     isAskedByPage_ ? commands_.loadForPage(address) : commands().load(address);
   }
   void answer(const DialogAnswer& answer) { dialogs_.answer(answer); }
+  void cancelDownload(const std::string& id) { session_.downloads().cancel(id); }
   bool isLoading() const { return webkit_web_view_is_loading(view()) && !watchdog_.hasGivenUp(); }
 
  private:
@@ -191,6 +193,10 @@ void WebView::load(const std::string& address) {
 
 void WebView::answer(const DialogAnswer& answer) {
   engine_->answer(answer);
+}
+
+void WebView::cancelDownload(const std::string& id) {
+  engine_->cancelDownload(id);
 }
 
 void WebView::reload() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/Download.h"
 #include "engine/PageDialog.h"
 #include "engine/StallTimer.h"
 #include "engine/WebFolders.h"
@@ -32,6 +33,8 @@ class WebView {
     std::function<void(const std::string& address)> openWindow = [](const std::string&) {};
     /// The page's dialog that is to be shown, or that there is none any more.
     std::function<void(const std::optional<PageDialog>&)> onDialog = [](const auto&) {};
+    /// A download has started, come further or ended.
+    std::function<void(const Download&)> onDownload = [](const auto&) {};
     /// Pages are not confined, for reasons given in a sentence or two; said once at the most.
     std::function<void(const std::string& warning)> onUnconfined = [](const std::string&) {};
   };
@@ -48,6 +51,8 @@ class WebView {
 
   /// Answers the dialog that is shown.
   void answer(const DialogAnswer& answer);
+  /// Breaks off a download; of one that has ended already nothing changes.
+  void cancelDownload(const std::string& id);
 
   bool canGoBack() const;
   bool canGoForward() const;

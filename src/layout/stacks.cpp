@@ -34,7 +34,8 @@ void VStack::add(Children children) {
 }
 
 void VStack::place(Gtk::Widget& child, Gtk::Widget* previous) {
-  if (!child.compute_expand(Gtk::Orientation::HORIZONTAL))
+  // A widget that is hidden for now computes that it does not expand, whatever it will do.
+  if (!child.get_hexpand() && !child.compute_expand(Gtk::Orientation::HORIZONTAL))
     child.set_halign(static_cast<Gtk::Align>(alignment_));
   insertAfter(*this, child, previous);
 }
@@ -52,7 +53,7 @@ void HStack::setEqualWidths() {
 
 void HStack::add(Children children) {
   for (auto* child : children) {
-    if (!child->compute_expand(Gtk::Orientation::VERTICAL))
+    if (!child->get_vexpand() && !child->compute_expand(Gtk::Orientation::VERTICAL))
       child->set_valign(static_cast<Gtk::Align>(alignment_));
     append(*child);
   }

@@ -284,6 +284,10 @@ TEST_F(ContentViewTest, AWarningStandsAboveThePageAndIsNeverCut) {
   EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
   EXPECT_TRUE(labelled(*view, *model->warning)->get_mapped());
 
+  model->warning = "Short";
+  tests::drawFrame(*view);
+  EXPECT_EQ(bounds(the<WarningBar>()).get_width(), 873);
+
   model->warning = "";
   tests::drawFrame(*view);
   EXPECT_FALSE(the<WarningBar>().get_mapped());

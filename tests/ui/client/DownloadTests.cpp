@@ -1,8 +1,6 @@
 #include "engine/DownloadKeeper.h"
 #include "support/RealInput.h"
-#include "ui/client/ModelTest.h"
-
-#include <fstream>
+#include "ui/client/DownloadTest.h"
 
 namespace quorvel {
 namespace {
@@ -10,65 +8,7 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::Eq;
 using ::testing::IsEmpty;
-using ::testing::SizeIs;
 using ::testing::UnorderedElementsAre;
-
-/// A desktop that names a download folder, and a site with something to download.
-class DownloadTest : public ModelTest {
- protected:
-  void SetUp() override {
-    create_directories(downloads);
-    nameFolder(downloads.string());
-    server.page("/tried", "");
-    server.answer("/report.pdf", [](SoupServerMessage* message) {
-      soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
-      soup_message_headers_replace(soup_server_message_get_response_headers(message), "Content-Disposition",
-                                   "attachment");
-      soup_server_message_set_response(message, "application/octet-stream", SOUP_MEMORY_STATIC, "report", 6);
-    });
-  }
-  void TearDown() override {
-    // A page's process that was still starting would miss the folders that go with this test.
-    if (model)
-      show("/agent.html");
-    fs::remove(userFolders);
-    g_reload_user_special_dirs_cache();
-  }
-
-  void nameFolder(const std::string& name) {
-    create_directories(userFolders.parent_path());
-    std::ofstream(userFolders) << "XDG_DOWNLOAD_DIR=\"" << name << "\"\n";
-    g_reload_user_special_dirs_cache();
-  }
-  std::vector<std::string> files() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(downloads))
-      names.push_back(entry.path().filename());
-    return names;
-  }
-  /// Has the page download something, and waits until the file for it is there.
-  void startDownload(const std::string& path) {
-    server.page("/links.html", "<a id=a download href=" + path + ">x</a>");
-    show("/links.html");
-    runScript("a.click()");
-    ASSERT_TRUE(tests::eventually([&] { return !files().empty(); }));
-  }
-  /// An answer that never comes to its end.
-  void serveHalfAFile(const std::string& path) {
-    server.answer(path, [](SoupServerMessage* message) {
-      soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
-      auto* headers = soup_server_message_get_response_headers(message);
-      soup_message_headers_set_encoding(headers, SOUP_ENCODING_CHUNKED);
-      soup_message_headers_replace(headers, "Content-Type", "application/octet-stream");
-      const std::string half(100'000, 'x'); // more than the engine looks at to tell what it is
-      soup_message_body_append(soup_server_message_get_response_body(message), SOUP_MEMORY_COPY, half.data(),
-                               half.size());
-    });
-  }
-
-  const fs::path downloads = folder / "Downloads";
-  const fs::path userFolders = fs::path(Glib::get_user_config_dir()) / "user-dirs.dirs";
-};
 
 TEST_F(DownloadTest, APageDownloadsOncePerDocumentAndOncePerClick) {
   auto& view = model->webView().widget();
@@ -94,23 +34,11 @@ TEST_F(DownloadTest, NothingIsLeftOfADownloadWhenTheProgramEnds) {
   startDownload("/half.bin");
   model.reset();
   EXPECT_TRUE(tests::eventually([&] { return files(); }, IsEmpty()));
-  EXPECT_FALSE(fs::exists(folder / "user" / "data" / "downloads-under-way"));
+  EXPECT_FALSE(isRecordThere());
 }
 
 TEST_F(DownloadTest, NothingIsLeftOfADownloadThatFails) {
-  server.answer("/half.bin", [](SoupServerMessage* message) {
-    soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
-    auto* headers = soup_server_message_get_response_headers(message);
-    soup_message_headers_set_content_length(headers, 1'000'000);
-    soup_message_headers_replace(headers, "Content-Type", "application/octet-stream");
-    const std::string half(100'000, 'x');
-    soup_message_body_append(soup_server_message_get_response_body(message), SOUP_MEMORY_COPY, half.data(),
-                             half.size());
-    const auto hangUp = +[](SoupServerMessage* sent, gpointer) {
-      g_socket_close(soup_server_message_get_socket(sent), nullptr);
-    };
-    g_signal_connect(message, "wrote-chunk", G_CALLBACK(hangUp), nullptr);
-  });
+  serveAFileThatFails("/half.bin");
   server.page("/links.html", "<a id=a download href=/half.bin>x</a>");
   show("/links.html");
   int failures = 0;
@@ -122,8 +50,7 @@ TEST_F(DownloadTest, NothingIsLeftOfADownloadThatFails) {
   runScript("a.click()");
   ASSERT_TRUE(tests::eventually([&] { return failures; }, Eq(1)));
   EXPECT_TRUE(tests::eventually([&] { return files(); }, IsEmpty()));
-  EXPECT_TRUE(
-      tests::eventually([&] { return !fs::exists(folder / "user" / "data" / "downloads-under-way"); }));
+  EXPECT_TRUE(tests::eventually([&] { return !isRecordThere(); }));
 }
 
 TEST_F(DownloadTest, WhatACrashHasLeftIsRemovedAtTheNextStart) {
@@ -146,8 +73,7 @@ TEST_F(DownloadTest, WhatACrashHasLeftIsRemovedAtTheNextStart) {
 
 TEST_F(DownloadTest, AFinishedDownloadStays) {
   startDownload("/report.pdf");
-  EXPECT_TRUE(
-      tests::eventually([&] { return !fs::exists(folder / "user" / "data" / "downloads-under-way"); }));
+  EXPECT_TRUE(tests::eventually([&] { return !isRecordThere(); }));
   start();
   EXPECT_THAT(files(), UnorderedElementsAre("report.pdf"));
   EXPECT_EQ(fs::file_size(downloads / "report.pdf"), 6u);

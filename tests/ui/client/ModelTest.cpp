@@ -20,6 +20,7 @@ void ModelTest::start(const std::string& name) {
   model = std::make_unique<DesktopBrowserModel>(DesktopBrowserModel::Surroundings{
       .folders = {folder / name / "data", folder / name / "cache"},
       .openInSystem = [this](const std::string& address) { opened.push_back(address); },
+      .showInFolder = [this](const std::string& path) { shownInFolder.push_back(path); },
       .startTimer = timer.function()});
   const auto onLoad = +[](WebKitWebView* view, WebKitLoadEvent event, std::string* document) {
     if (event == WEBKIT_LOAD_COMMITTED)

@@ -58,8 +58,8 @@ class ModelTest : public ::testing::Test {
   const tests::TemporaryFolder temporary;
   const std::filesystem::path folder = temporary.path;
   LoopbackServer server;
-  /// What was handed to the system.
-  std::vector<std::string> opened;
+  /// What was handed to the system, and what to the file manager.
+  std::vector<std::string> opened, shownInFolder;
   ManualTimer timer;
   std::unique_ptr<DesktopBrowserModel> model;
 

@@ -30,6 +30,16 @@ TEST(Stacks, ASpacerKeepsItsMinimumWhereThereIsNoRoom) {
   EXPECT_EQ(stack->get_width(), 30 + 10 + 24 + 10 + 40);
 }
 
+TEST(Stacks, AChildThatIsHiddenAtFirstIsAsWideAsIfItHadNeverBeen) {
+  auto* wide = stretched(block(50, 10));
+  wide->set_visible(false);
+  auto* stack = vstack(8, {wide});
+  TestWindow window(*stack, 200);
+  wide->set_visible(true);
+  drawFrame(*stack);
+  EXPECT_EQ(boundsIn(*stack, *wide).get_width(), 200);
+}
+
 TEST(Stacks, ALeadingChildKeepsItsWidthAndAStretchedOneGetsItAll) {
   auto* narrow = block(50, 10);
   auto* wide = stretched(block(50, 10));
