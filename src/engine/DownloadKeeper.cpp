@@ -13,9 +13,6 @@
 namespace quorvel {
 namespace {
 
-/// The engine writes into a file beside the one it was given, and puts it in its place at the end.
-constexpr auto partSuffix = ".wkdownload";
-
 /// What there is of a download that did not come to its end. A file that has content is the user's.
 void removeTraces(const std::string& path) {
   if (path.empty())
@@ -23,7 +20,7 @@ void removeTraces(const std::string& path) {
   GStatBuf status{};
   if (g_lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size == 0)
     g_unlink(path.c_str());
-  g_unlink((path + partSuffix).c_str());
+  g_unlink((std::string(path).append(partSuffix)).c_str());
 }
 
 void removeTracesOfLastRun(const std::string& record) {

@@ -54,6 +54,35 @@ TEST_F(ReserveFileTest, ANameHidesNothing) {
   EXPECT_EQ(safeFileName("archive.tar.gz"), "archive.tar.gz");
 }
 
+TEST_F(ReserveFileTest, NoLetterThatIsNotSeenStaysInAName) {
+  for (const std::string unseen :
+       {"\u00ad", "\u034f", "\u061c", "\u115f", "\u1160", "\u17b4", "\u180b", "\u180e", "\u200d", "\u2060",
+        "\u2800", "\u3164", "\ufe0f", "\uffa0", "\U000e0041", "\U000e0100"})
+    EXPECT_EQ(safeFileName("in" + unseen + "voice" + unseen + ".pdf"), "invoice.pdf");
+}
+
+TEST_F(ReserveFileTest, NoSpaceMovesAnExtensionOutOfSight) {
+  EXPECT_EQ(safeFileName("invoice.pdf" + std::string(150, ' ') + ".exe"), "invoice.pdf .exe");
+  EXPECT_EQ(safeFileName("a\u00a0\u2003\u3000 b.txt"), "a b.txt");
+  EXPECT_EQ(safeFileName("\u3000.profile"), "profile");
+  EXPECT_EQ(safeFileName("invoice.pdf. . ."), "invoice.pdf");
+  EXPECT_EQ(safeFileName("\u00a0 ."), "download");
+}
+
+TEST_F(ReserveFileTest, TheFileThatTheEngineWritesToIsFreeToo) {
+  std::ofstream(folder / "invoice.pdf.wkdownload") << "the user's own";
+  EXPECT_EQ(reserved("invoice.pdf"), "invoice (1).pdf");
+  EXPECT_EQ(reserved("letter.txt.wkdownload"), "letter.txt") << "another download's";
+  EXPECT_EQ(safeFileName("letter.txt.wkdownload. .wkdownload."), "letter.txt");
+  EXPECT_EQ(reserved(".wkdownload"), "wkdownload");
+}
+
+TEST_F(ReserveFileTest, ALinkThatLeadsNowhereIsNoFreeName) {
+  fs::create_symlink(folder / "elsewhere", folder / "invoice.pdf");
+  EXPECT_EQ(reserved("invoice.pdf"), "invoice (1).pdf");
+  EXPECT_FALSE(fs::exists(folder / "elsewhere"));
+}
+
 TEST_F(ReserveFileTest, ANameIsAtMost200BytesLongWithItsExtension) {
   for (const std::string letter : {"x", "ä", "€", "😀"}) {
     std::string stem;
