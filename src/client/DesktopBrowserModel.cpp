@@ -51,7 +51,7 @@ void DesktopBrowserModel::openExternal() {
 
 bool DesktopBrowserModel::isShowing(QuorvelRoute route) const {
   const auto address = webView_.address();
-  return matches(route, address.empty() ? *currentURLString : address);
+  return matches(route, address.empty() ? std::string_view(*currentURLString) : address);
 }
 
 void DesktopBrowserModel::answer(const DialogAnswer& answer) {
@@ -66,6 +66,10 @@ void DesktopBrowserModel::showInFolder(const Download& download) {
   showInFolder_(download.path);
 }
 
+void DesktopBrowserModel::dismissDialogs() {
+  webView_.dismissDialogs();
+}
+
 void DesktopBrowserModel::updateState() {
   Glib::signal_idle().connect_once(sigc::mem_fun(*this, &DesktopBrowserModel::copyState),
                                    Glib::PRIORITY_DEFAULT);
@@ -75,8 +79,11 @@ void DesktopBrowserModel::copyState() {
   canGoBack = webView_.canGoBack();
   canGoForward = webView_.canGoForward();
   isLoading = webView_.isLoading();
-  const auto address = webView_.address();
-  currentURLString = address.empty() ? *currentURLString : address;
+  // A page's address may be megabytes long: it is copied no more often than it must be.
+  currentURLString.update([seen = webView_.address()](std::string& address) mutable {
+    if (!seen.empty())
+      address.swap(seen);
+  });
   title = webView_.title().value_or("Quorvel");
 }
 

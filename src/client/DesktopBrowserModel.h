@@ -61,6 +61,8 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   void cancel(const Download& download);
   /// Has the file manager show a file that was downloaded.
   void showInFolder(const Download& download);
+  /// Whatever the page asks, the owner wants to get on.
+  void dismissDialogs();
 
   /// The one view, for a host to place; it stays the model's.
   WebView& webView() { return webView_; }

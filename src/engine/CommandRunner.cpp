@@ -21,7 +21,7 @@ bool hasFragment(const std::string& address) {
 
 CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner)
     : view_(view), owner_(std::move(owner)),
-      command_({std::move(startTimer), [this] { ask(); }, [this] { insist(); }}) {
+      command_({std::move(startTimer), [this] { ask(); }, [this] { insist(); }}), gauge_(view_) {
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, CommandRunner* self) { self->noteEvent(event); };
   g_signal_connect(view_, "load-changed", G_CALLBACK(onEvent), this);
@@ -64,19 +64,51 @@ void CommandRunner::reload() {
 }
 
 void CommandRunner::goBack() {
-  goTo(webkit_back_forward_list_get_back_item(webkit_web_view_get_back_forward_list(view_)));
+  auto* history = webkit_web_view_get_back_forward_list(view_);
+  goTo(webkit_back_forward_list_get_back_item(history), webkit_web_view_go_back);
 }
 
 void CommandRunner::goForward() {
-  goTo(webkit_back_forward_list_get_forward_item(webkit_web_view_get_back_forward_list(view_)));
+  auto* history = webkit_web_view_get_back_forward_list(view_);
+  goTo(webkit_back_forward_list_get_forward_item(history), webkit_web_view_go_forward);
 }
 
-void CommandRunner::goTo(WebKitBackForwardListItem* item) {
-  if (!item)
+void CommandRunner::goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*)) {
+  if (!neighbour)
     return;
-  target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(item)));
-  carryOut({WEBKIT_NAVIGATION_TYPE_BACK_FORWARD,
-            [this] { webkit_web_view_go_to_back_forward_list_item(view_, target_.get()); }});
+  target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(neighbour)));
+  Wish wish{WEBKIT_NAVIGATION_TYPE_BACK_FORWARD,
+            [this] { webkit_web_view_go_to_back_forward_list_item(view_, target_.get()); }};
+  wish.begin = [this, go, onScreen = addressOf(view_)] {
+    go(view_);
+    if (addressOf(view_) != onScreen)
+      noteTarget(addressOf(view_));
+  };
+  carryOut(std::move(wish));
+}
+
+/// The engine leaves out what a page has put into the history by itself, and says only where it goes.
+void CommandRunner::noteTarget(const std::string& address) {
+  auto* history = webkit_web_view_get_back_forward_list(view_);
+  g_autoptr(GList) items = g_list_concat(webkit_back_forward_list_get_back_list(history),
+                                         webkit_back_forward_list_get_forward_list(history));
+  for (const GList* each = items; each; each = each->next)
+    if (auto* item = WEBKIT_BACK_FORWARD_LIST_ITEM(each->data);
+        address == webkit_back_forward_list_item_get_uri(item)) {
+      target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(item)));
+      return;
+    }
+}
+
+void CommandRunner::overrule(const std::function<void()>& command) {
+  isOverruled_ = true;
+  command();
+  isOverruled_ = false;
+}
+
+/// It would take too long to ask the page to make way.
+bool CommandRunner::isBeyondAsking() const {
+  return isOverruled_ || gauge_.isFlooded() || !webkit_web_view_get_is_web_process_responsive(view_);
 }
 
 void CommandRunner::carryOut(Wish wish) {
@@ -84,15 +116,20 @@ void CommandRunner::carryOut(Wish wish) {
   command_.end();
   const auto onScreen = addressOf(view_);
   const bool wasLoading = webkit_web_view_is_loading(view_);
-  if (!webkit_web_view_get_is_web_process_responsive(view_)) {
+  const bool isBeyond = isBeyondAsking();
+  if (wish_.begin)
+    wish_.begin();
+  else if (!isBeyond)
+    wish_.carryOut();
+  if (isBeyond) {
     insist();
     return;
   }
-  wish_.carryOut();
   isRedirected_ = false;
   const bool isInHistory = wish_.type == WEBKIT_NAVIGATION_TYPE_BACK_FORWARD;
   expected_ = isInHistory ? webkit_back_forward_list_item_get_uri(target_.get()) : addressOf(view_);
-  staysInDocument_ = hasFragment(expected_) && withoutFragment(expected_) == withoutFragment(onScreen);
+  staysInDocument_ = wish_.type != WEBKIT_NAVIGATION_TYPE_RELOAD && hasFragment(expected_) &&
+                     withoutFragment(expected_) == withoutFragment(onScreen);
   // Where there is no page, and none on its way, none can be in the way.
   if (!onScreen.empty() || wasLoading)
     command_.begin();
@@ -137,8 +174,8 @@ void CommandRunner::noteAnswer(const std::string& place) {
 }
 
 void CommandRunner::insist() {
-  // Not within the engine's own handling of what the process has said.
-  Glib::signal_idle().connect_once(sigc::mem_fun(*this, &CommandRunner::startAfresh), Glib::PRIORITY_DEFAULT);
+  // Not within the engine's own handling of what the process has said, and before the rest of that.
+  Glib::signal_idle().connect_once(sigc::mem_fun(*this, &CommandRunner::startAfresh), Glib::PRIORITY_HIGH);
 }
 
 void CommandRunner::startAfresh() {

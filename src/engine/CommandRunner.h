@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/FloodGauge.h"
 #include "engine/GObjectPointer.h"
 #include "engine/OwnersCommand.h"
 
@@ -28,6 +29,8 @@ class CommandRunner : public sigc::trackable {
   void reload();
   void goBack();
   void goForward();
+  /// Does what one of the above does at the expense of a process that is known to hang.
+  void overrule(const std::function<void()>& command);
 
   /// The address of the last load, as it was asked for.
   const std::string& requested() const { return requested_; }
@@ -44,10 +47,13 @@ class CommandRunner : public sigc::trackable {
   struct Wish {
     WebKitNavigationType type = WEBKIT_NAVIGATION_TYPE_OTHER;
     std::function<void()> carryOut = [] {};
+    std::function<void()> begin = nullptr; ///< in place of that, where it is not done again
   };
 
+  bool isBeyondAsking() const;
+  void goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*));
+  void noteTarget(const std::string& address);
   void carryOut(Wish wish);
-  void goTo(WebKitBackForwardListItem* item);
   void ask();
   /// `place` is where the page says it is.
   void noteAnswer(const std::string& place);
@@ -66,8 +72,10 @@ class CommandRunner : public sigc::trackable {
   std::string expected_; // the address that the wish leads to, as the engine writes it; empty if not known
   bool staysInDocument_ = false;
   bool isRedirected_ = false;
+  bool isOverruled_ = false;                         // the page, without another question
   GObjectPointer<WebKitBackForwardListItem> target_; // in the history
   OwnersCommand command_;
+  FloodGauge gauge_;
   GObjectPointer<GCancellable> question_{g_cancellable_new()};
 };
 

@@ -12,7 +12,7 @@ TimerFunction mainLoopTimer() {
           task();
           return false;
         },
-        static_cast<unsigned>(delay.count()));
+        static_cast<unsigned>(delay.count()), Glib::PRIORITY_HIGH); // a page may have much to say
   };
 }
 

@@ -5,11 +5,13 @@
 #include "engine/NavigationPolicy.h"
 #include "engine/OncePerGesture.h"
 #include "engine/PageDialogs.h"
+#include "engine/PageKeys.h"
 #include "engine/PageSandbox.h"
 #include "engine/UserGestures.h"
 #include "engine/WebSession.h"
 #include "engine/engineTexts.h"
 #include "engine/makeView.h"
+#include "engine/printDialog.h"
 
 #include <utility>
 
@@ -23,7 +25,10 @@ class WebView::Engine {
         session_(folders, {[this] { return downloads_.take(); }, owner_.onDownload}),
         view_(makeView(session_.get())), sandbox_(owner_.onUnconfined),
         commands_(view(), startTimer, {[this] { watchdog_.begin(); }, [this] { return isOwnerInPage_; }}),
-        watchdog_(view(), std::move(startTimer), {[this] { commands_.giveUp(); }, owner_.onChange}),
+        watchdog_(view(), startTimer, {[this] { commands_.giveUp(); }, owner_.onChange}),
+        keys_(
+            view(), std::move(startTimer),
+            {[this](auto key) { obey(key); }, [this](auto key) { commands_.overrule([&] { obey(key); }); }}),
         gestures_(view(), [this] { noteGesture(); }),
         dialogs_(view(), {owner_.onDialog, [this] { return commands_.isUnderWay(); }}) {
     watchState();
@@ -42,7 +47,7 @@ class WebView::Engine {
   CommandRunner& commands() {
     isOwnerInPage_ = false;
     renew();
-    dialogs_.dismiss();
+    dismissDialogs();
     dialogs_.startAfresh();
     return commands_;
   }
@@ -51,12 +56,17 @@ class WebView::Engine {
   }
   void answer(const DialogAnswer& answer) { dialogs_.answer(answer); }
   void cancelDownload(const std::string& id) { session_.downloads().cancel(id); }
+  void dismissDialogs() {
+    dialogs_.dismiss();
+    closePrintDialog(view());
+  }
   bool isLoading() const { return webkit_web_view_is_loading(view()) && !watchdog_.hasGivenUp(); }
 
  private:
   void watchState();
   void watchNavigation();
   void renew();
+  void obey(PageKeys::Key key);
   void noteGesture();
   void noteEvent(WebKitLoadEvent event);
   bool isInTheWay(WebKitNavigationAction* action);
@@ -71,6 +81,7 @@ class WebView::Engine {
   PageSandbox sandbox_;
   CommandRunner commands_;
   LoadWatchdog watchdog_;
+  PageKeys keys_;
   UserGestures gestures_;
   PageDialogs dialogs_;
   OncePerGesture launches_; // of mail and telephone programs
@@ -101,6 +112,17 @@ void WebView::Engine::watchState() {
 void WebView::Engine::renew() {
   launches_.renew();
   downloads_.renew();
+}
+
+void WebView::Engine::obey(PageKeys::Key key) {
+  switch (key) {
+  case PageKeys::Key::back:
+    return commands().goBack();
+  case PageKeys::Key::forward:
+    return commands().goForward();
+  case PageKeys::Key::reload:
+    return commands().reload();
+  }
 }
 
 void WebView::Engine::noteGesture() {
@@ -199,6 +221,10 @@ void WebView::cancelDownload(const std::string& id) {
   engine_->cancelDownload(id);
 }
 
+void WebView::dismissDialogs() {
+  engine_->dismissDialogs();
+}
+
 void WebView::reload() {
   engine_->commands().reload();
 }
@@ -224,9 +250,11 @@ bool WebView::isLoading() const {
 }
 
 std::string WebView::address() const {
-  const auto address = addressOf(engine_->view());
-  // While a redirect to a mail address is being refused, the view names it as its own.
-  return choose({address}) == NavigationChoice::system ? "" : address;
+  auto address = addressOf(engine_->view());
+  // While a redirect to a mail address is being refused, the view names it as its own. Its beginning tells.
+  if (choose({address.substr(0, 32)}) == NavigationChoice::system)
+    address.clear();
+  return address;
 }
 
 std::optional<std::string> WebView::title() const {

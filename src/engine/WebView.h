@@ -53,6 +53,8 @@ class WebView {
   void answer(const DialogAnswer& answer);
   /// Breaks off a download; of one that has ended already nothing changes.
   void cancelDownload(const std::string& id);
+  /// Whatever the page asks, it gets the answer of somebody who wants to get on.
+  void dismissDialogs();
 
   bool canGoBack() const;
   bool canGoForward() const;

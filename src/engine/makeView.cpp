@@ -1,6 +1,5 @@
 #include "engine/makeView.h"
 
-#include "engine/pageKeys.h"
 #include "engine/permissions.h"
 #include "engine/swipes.h"
 
@@ -37,7 +36,6 @@ GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   refusePermissions(WEBKIT_WEB_VIEW(view));
   allowSwipes(WEBKIT_WEB_VIEW(view));
   keepTabMoving(WEBKIT_WEB_VIEW(view));
-  answerKeysThePageLeaves(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }
 

@@ -116,6 +116,41 @@ TEST_F(HabitTest, AFrameInThePageLeavesTheKeysToTheProgramAsThePageDoes) {
   waitForPage("/agent.html", 2);
 }
 
+TEST_F(HabitTest, APageThatGoesElsewhereAgainAndAgainCannotKeepTheKeysFromActing) {
+  startInSecondPage("const leave = () => { location.href = '/status?code=204&' + Math.random() };"
+                    "document.querySelector('textarea').onfocus ="
+                    "  () => report('focus').then(() => setInterval(leave, 0));");
+  client().type("alt+Left");
+  waitForPage("/agent.html", 2);
+}
+
+/// A page that hangs as soon as the focus is in it, and so never says what it makes of a key.
+class HangingHabitTest : public HabitTest {
+ protected:
+  void startInHangingPage() {
+    startInSecondPage("document.querySelector('textarea').onfocus ="
+                      "  () => report('focus').then(() => { while (true) {} });");
+  }
+};
+
+TEST_F(HangingHabitTest, AltWithAnArrowGoesBack) {
+  startInHangingPage();
+  client().type("alt+Left");
+  waitForPage("/agent.html", 2);
+}
+
+TEST_F(HangingHabitTest, F5Reloads) {
+  startInHangingPage();
+  client().type("F5");
+  waitForPage("/pricing.html", 2);
+}
+
+TEST_F(HangingHabitTest, TheSideButtonOfAMouseGoesBack) {
+  startInHangingPage();
+  pressMouse("8");
+  waitForPage("/agent.html", 2);
+}
+
 TEST_F(HabitTest, NoOtherKeyGoesBack) {
   startInSecondPage();
   for (const std::string key : {"BackSpace", "alt+shift+Left", "ctrl+Left", "alt+ctrl+Left", "Left"})

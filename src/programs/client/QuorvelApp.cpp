@@ -66,6 +66,7 @@ void QuorvelApp::makeWindow() {
 void QuorvelApp::end() {
   if (window_)
     writeWindowSize(windowSizeFile(), window_->size());
+  browser_->dismissDialogs(); // while one asks what to print the engine keeps the program from ending
   quit();
 }
 

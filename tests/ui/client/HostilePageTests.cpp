@@ -121,6 +121,11 @@ class TrickTest : public HostilePageTest, public ::testing::WithParamInterface<T
   void SetUp() override {
     server.slowPage("/slow.html", "<title>Slow</title>", std::chrono::milliseconds(400));
     server.slowPage("/elsewhere.html", "<title>Elsewhere</title>", std::chrono::milliseconds(400));
+    server.answer("/sign-in", [](SoupServerMessage* message) {
+      soup_server_message_set_status(message, SOUP_STATUS_UNAUTHORIZED, nullptr);
+      soup_message_headers_replace(soup_server_message_get_response_headers(message), "WWW-Authenticate",
+                                   "Basic realm=\"x\"");
+    });
     show("/agent.html");
     showPageThat(GetParam().does);
   }
@@ -142,16 +147,24 @@ TEST_P(TrickTest, DoesNotKeepTheOwnerFromReloading) {
 
 INSTANTIATE_TEST_SUITE_P(
     Page, TrickTest,
-    ::testing::Values(Trick{"Windows", always("window.open('/elsewhere.html?' + n++)")},
-                      Trick{"Locations", always("location.href = '/elsewhere.html?' + n++")},
-                      Trick{"Replacements", always("location.replace('/elsewhere.html?' + n++)")},
-                      Trick{"Fragments", always("location.hash = n++")},
-                      Trick{"States", always("history.replaceState({}, '', '?' + n++)")},
-                      Trick{"Reloads", always("location.reload()")}, Trick{"Forms", always("form.submit()")},
-                      Trick{"Links", always("link.click()")}, Trick{"Stops", always("window.stop()")},
-                      Trick{"HangOnLeaving", "addEventListener('pagehide', () => { while (true) {} })"},
-                      Trick{"HangBeforeLeaving",
-                            "addEventListener('beforeunload', () => { while (true) {} })"}),
+    ::testing::Values(
+        Trick{"Windows", always("window.open('/elsewhere.html?' + n++)")},
+        Trick{"Locations", always("location.href = '/elsewhere.html?' + n++")},
+        Trick{"Replacements", always("location.replace('/elsewhere.html?' + n++)")},
+        Trick{"Fragments", always("location.hash = n++")},
+        Trick{"States", always("history.replaceState({}, '', '?' + n++)")},
+        Trick{"Reloads", always("location.reload()")}, Trick{"Forms", always("form.submit()")},
+        Trick{"Links", always("link.click()")}, Trick{"Stops", always("window.stop()")},
+        Trick{"Journeys", always("history.go(n++ % 2 ? 1 : -1)")},
+        Trick{"WindowsOfNothing", always("open('about:blank'); open('javascript:1')")},
+        Trick{"WindowsForForms", always("form.target = '_blank'; form.submit()")},
+        Trick{"FramesInFrames", always("document.body.innerHTML ="
+                                       "  '<iframe srcdoc=\"<iframe src=/elsewhere.html>\">'")},
+        Trick{"Refreshes", always("document.head.append(Object.assign(document.createElement('meta'),"
+                                  "  {httpEquiv: 'refresh', content: `0;/elsewhere.html?${n++}`}))")},
+        Trick{"SignIns", always("document.body.innerHTML = `<iframe src='/sign-in?${n++}'>`")},
+        Trick{"HangOnLeaving", "addEventListener('pagehide', () => { while (true) {} })"},
+        Trick{"HangBeforeLeaving", "addEventListener('beforeunload', () => { while (true) {} })"}),
     [](const auto& trick) { return trick.param.name; });
 
 } // namespace

@@ -190,6 +190,15 @@ INSTANTIATE_TEST_SUITE_P(
     Of, DialogLoopTest,
     ::testing::Values(Loop{"Alerts", "for (;;) alert('x')"}, Loop{"Questions", "for (;;) confirm('x')"},
                       Loop{"Prompts", "for (;;) prompt('x')"}, Loop{"Prints", "for (;;) print()"},
+                      Loop{"TimedAlerts", "setInterval(() => alert('x'))"},
+                      Loop{"AlertsOfFrames", "const inFrame = () => { for (;;) alert('x') };"
+                                             "document.body.append(document.createElement('iframe'));"
+                                             "frames[0].eval(`(${inFrame})()`)"},
+                      Loop{"PrintsOfFrames", "document.body.append(document.createElement('iframe'));"
+                                             "for (;;) frames[0].print()"},
+                      Loop{"AlertsOnLeaving", "onpagehide = onunload = () => { for (;;) alert('x') }"},
+                      Loop{"AlertsBeforeLeaving",
+                           "addEventListener('beforeunload', () => { for (;;) confirm('x') })"},
                       Loop{"Departures", "setInterval(() => { location.href = '/agent.html' })"}),
     [](const auto& loop) { return loop.param.name; });
 

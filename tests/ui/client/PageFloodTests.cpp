@@ -59,6 +59,7 @@ class LaunchTest : public PageFloodTest, public ::testing::WithParamInterface<La
 
 TEST_P(LaunchTest, HappensOncePerDocumentAndOncePerClick) {
   server.redirect("/redirect", "mailto:a@b.example");
+  server.redirect("/chain", "/redirect");
   showPageThatTries(GetParam().attempt, GetParam().html);
   EXPECT_THAT(opened, ElementsAre(StartsWith("mailto:a@b.example")));
   clickOnThePage();
@@ -77,7 +78,23 @@ INSTANTIATE_TEST_SUITE_P(
         Launch{"Frames", "f.src = 'mailto:a@b.example'", "<iframe id=f></iframe>"},
         Launch{"Forms", "f.submit()", "<form id=f action='mailto:a@b.example' method=get></form>"},
         Launch{"Windows", "open('mailto:a@b.example')"},
-        Launch{"Redirects", "f.src = '/redirect?' + n", "<iframe id=f></iframe>"}),
+        Launch{"Redirects", "f.src = '/redirect?' + n", "<iframe id=f></iframe>"},
+        Launch{"ChainsOfRedirects", "f.src = '/chain?' + n", "<iframe id=f></iframe>"},
+        Launch{"Refreshes", "f.srcdoc = `<meta http-equiv=refresh content='0; mailto:a@b.example?${n}'>`",
+               "<iframe id=f></iframe>"},
+        Launch{"ScriptsInFrames",
+               "f.srcdoc = `<script>top.location.href = 'mailto:a@b.example?${n}'<` + '/script>'",
+               "<iframe id=f></iframe>"},
+        Launch{"Areas", "a.click()", "<map><area id=a href='mailto:a@b.example'></map>"},
+        Launch{"Drawings", "a.dispatchEvent(new MouseEvent('click'))",
+               "<svg><a id=a href='mailto:a@b.example'></a></svg>"},
+        Launch{"FormsForWindows", "f.submit()",
+               "<form id=f target=_blank action='mailto:a@b.example' method=post></form>"},
+        Launch{"FormsForFrames", "f.submit()",
+               "<iframe name=g></iframe><form id=f target=g action='mailto:a@b.example' method=get></form>"},
+        Launch{"WindowsWithoutOpener", "open('mailto:a@b.example', '_blank', 'noopener')"},
+        Launch{"Replacements", "location.replace('mailto:a@b.example')"},
+        Launch{"Objects", "o.data = 'mailto:a@b.example?' + n", "<object id=o data=''></object>"}),
     [](const auto& test) { return test.param.name; });
 
 TEST_F(PageFloodTest, APageThatReloadsItselfLaunchesNothingAnew) {
