@@ -1,6 +1,7 @@
 #include "brand/StyleSheet.h"
 
 #include <gmock/gmock.h>
+#include <gtkmm/cssprovider.h>
 #include <regex>
 #include <set>
 

@@ -8,7 +8,6 @@
 #include <gmock/gmock.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
-#include <memory>
 #include <sched.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>

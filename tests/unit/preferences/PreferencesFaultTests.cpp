@@ -104,7 +104,7 @@ TEST_F(PreferencesFaultTest, AFileThatAFlipWouldMakeTooLargeIsLeftAlone) {
 }
 
 TEST_F(PreferencesFaultTest, NoMaskForNewFilesMakesOneThatItsOwnerCannotReadOrWrite) {
-  for (const mode_t mask : {0777, 0377, 0477, 0077, 0}) {
+  for (const mode_t mask : {0777U, 0377U, 0477U, 0077U, 0U}) {
     fs::remove_all(folder);
     {
       const Umask scope(mask);

@@ -39,9 +39,8 @@ void expectDifferent(const Type& one, const Type& other) {
 /// Checks that `members`, the fields in declaration order, are all the record has and all count.
 template <Record Type, class... Members>
 void expectEveryFieldCounts(const Type& record, Members... members) {
-  const Type copy = record;
-  EXPECT_EQ(copy, record);
-  EXPECT_EQ(hashOf(copy), hashOf(record));
+  EXPECT_EQ(Type(record), record);
+  EXPECT_EQ(hashOf(Type(record)), hashOf(record));
   EXPECT_EQ(record.fields(), std::tie(record.*members...)) << "fields in another order, or not all of them";
 
   const auto expectToCount = [&record](auto member) {

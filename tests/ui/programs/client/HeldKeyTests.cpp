@@ -1,5 +1,3 @@
-#include "programs/client/MainWindow.h"
-
 #include "client/ContentView.h"
 #include "commands/PrimaryMenu.h"
 #include "support/RealInput.h"
