@@ -31,6 +31,11 @@ void GraphicsEnvironment::apply() const {
     g_setenv(name.c_str(), value.c_str(), false);
 }
 
+void GraphicsEnvironment::spareAnimations() const {
+  if (!hasRenderNode())
+    g_object_set(gtk_settings_get_default(), "gtk-overlay-scrolling", FALSE, nullptr);
+}
+
 // Without graphics hardware GL and Vulkan are emulated, which costs a third of the time to the first page and
 // 40 % of the memory. Toolkit and engine are told so too, or they would try it and complain. GTK 4.16 gave
 // this a variable of its own, and complains of the older words.

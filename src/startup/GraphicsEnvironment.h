@@ -24,6 +24,9 @@ class GraphicsEnvironment {
   /// Sets them for this process and those it starts, except where the user has set one to anything already.
   /// To be called before the toolkit starts and before there is a second thread.
   void apply() const;
+  /// Once the toolkit has started: what is animated nowhere but on graphics hardware. Overlay scrollbars fade
+  /// for seconds after each page, at full frame rate.
+  void spareAnimations() const;
 
  private:
   std::vector<Variable> withoutGraphicsHardware() const;

@@ -23,10 +23,12 @@ void keepDeveloperToolsShut() {
 } // namespace
 
 bool startToolkit(const ProgramName& program) {
-  GraphicsEnvironment().apply();
+  const GraphicsEnvironment graphics;
+  graphics.apply();
   keepUsableBuses();
   g_set_prgname(program.identifier); // by which a desktop finds the icon of the window
   if (gtk_init_check()) {
+    graphics.spareAnimations();
     keepDeveloperToolsShut();
     return true;
   }

@@ -1,18 +1,13 @@
 #pragma once
 
-#include <gtkmm/settings.h>
+#include "support/Setting.h"
 
 namespace quorvel::tests {
 
 /// The desktop's text size, as a factor of the usual one, for as long as this lives.
-struct TextScale {
-  explicit TextScale(double factor) { dpi = static_cast<int>(96 * 1024 * factor); }
-  ~TextScale() { dpi = before; }
-  TextScale(const TextScale&) = delete;
-  TextScale& operator=(const TextScale&) = delete;
-
-  Glib::PropertyProxy<int> dpi = Gtk::Settings::get_default()->property_gtk_xft_dpi();
-  int before = dpi;
+struct TextScale : Setting<int> {
+  explicit TextScale(double factor)
+      : Setting(Gtk::Settings::get_default()->property_gtk_xft_dpi(), static_cast<int>(96 * 1024 * factor)) {}
 };
 
 } // namespace quorvel::tests

@@ -1,3 +1,6 @@
+#include "client/QuorvelWebView.h"
+#include "support/Setting.h"
+#include "support/TestWindow.h"
 #include "ui/client/ModelTest.h"
 
 #include <fstream>
@@ -353,6 +356,20 @@ TEST_F(DesktopBrowserModelTest, WhereNothingCanBeKeptThePagesStillLoad) {
   std::ofstream(folder / "blocked") << "a file in the way of the folders";
   start("blocked");
   show("/pricing.html");
+}
+
+// Of scrolled windows that are gone GTK 4.8 tells the setting all the same: there is none in this suite.
+TEST_F(DesktopBrowserModelTest, WhereScrollbarsTakeRoomFromThePageTheyAreSlim) {
+  server.page("/long.html", "<!doctype html><body style='height: 9999px'><script>onload = () => {"
+                            " document.title = innerWidth - document.documentElement.clientWidth }</script>");
+  for (const auto& [isOverlaid, room] : {std::pair(true, "0"), std::pair(false, "10")}) {
+    const tests::Setting overlay(Gtk::Settings::get_default()->property_gtk_overlay_scrolling(), isOverlaid);
+    start(room);
+    QuorvelWebView view(*model);
+    const tests::TestWindow window(view, 400, 300);
+    show("/long.html");
+    EXPECT_TRUE(tests::eventually([&] { return *model->title == room; })) << *model->title;
+  }
 }
 
 TEST_F(DesktopBrowserModelTest, AFileDroppedOnThePageDoesNotReplaceIt) {
