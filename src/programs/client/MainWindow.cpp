@@ -5,12 +5,25 @@
 #include "programs/client/CommandMenu.h"
 #include "programs/client/habits.h"
 
+#include <glibmm/main.h>
 #include <gtkmm/headerbar.h>
+#include <utility>
 
 namespace quorvel {
+namespace {
 
-MainWindow::MainWindow(DesktopBrowserModel& browser, Gtk::Application& application,
-                       const Commands& commands) {
+/// As large as the client will be, and as dark.
+Gtk::Widget* emptyClient() {
+  auto* empty = Gtk::make_managed<HStack>(0);
+  empty->add_css_class("client-window");
+  empty->set_size_request(ContentView::minimumWidth, ContentView::minimumHeight);
+  return empty;
+}
+
+} // namespace
+
+MainWindow::MainWindow(DesktopBrowserModel& browser, Gtk::Application& application, const Commands& commands)
+    : browser_(browser) {
   set_title("Quorvel");
   set_icon_name("com.quorvel.Desktop");
   auto* header = Gtk::make_managed<Gtk::HeaderBar>();
@@ -18,10 +31,27 @@ MainWindow::MainWindow(DesktopBrowserModel& browser, Gtk::Application& applicati
   header->pack_start(*Gtk::make_managed<CommandMenu>(commands.client, browser, application));
   header->pack_end(*Gtk::make_managed<PrimaryMenu>(commands.program));
   set_titlebar(*header);
-  set_child(*Gtk::make_managed<ContentView>(browser));
+  set_child(*emptyClient());
   // A long address would otherwise make the window as wide as it would like to be.
   set_default_size(ContentView::minimumWidth, -1);
   addBrowsingHabits(*this);
+}
+
+MainWindow::~MainWindow() {
+  pause_.disconnect();
+}
+
+void MainWindow::on_map() {
+  Gtk::ApplicationWindow::on_map();
+  if (std::exchange(isEmpty_, false))
+    pause_ = Glib::signal_idle().connect(sigc::mem_fun(*this, &MainWindow::showClient), Glib::PRIORITY_LOW);
+}
+
+bool MainWindow::showClient() {
+  auto* client = Gtk::make_managed<ContentView>(browser_);
+  set_child(*client);
+  client->child_focus(Gtk::DirectionType::TAB_FORWARD); // as of a window that appears with it
+  return false;
 }
 
 WindowSize MainWindow::size() const {

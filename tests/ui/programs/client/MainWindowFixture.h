@@ -1,5 +1,6 @@
 #pragma once
 
+#include "client/ContentView.h"
 #include "programs/client/MainWindow.h"
 #include "programs/client/commands.h"
 #include "ui/client/ModelTest.h"
@@ -26,7 +27,8 @@ class MainWindowFixture : public ModelTest {
     window = std::make_unique<MainWindow>(*model, *application, *commands);
     application->add_window(*window);
     window->present();
-    ASSERT_TRUE(tests::eventually([&] { return window->get_mapped() && window->get_width() > 0; }));
+    ASSERT_TRUE(tests::eventually([&] { return !tests::all<ContentView>(*window).empty(); }));
+    ASSERT_TRUE(tests::eventually([&] { return tests::all<ContentView>(*window).front()->get_width() > 0; }));
   }
   void TearDown() override { window->close(); }
 

@@ -58,6 +58,29 @@ std::vector<std::string> lines(const Glib::RefPtr<const Gio::MenuModel>& menu) {
   return result;
 }
 
+TEST_F(MainWindowTest, TheClientIsMadeOnceAndLaterThanTheWindowAppears) {
+  MainWindow fresh(*model, *application, *commands);
+  fresh.present();
+  EXPECT_TRUE(tests::all<ContentView>(fresh).empty());
+  const auto leastSize = [&] {
+    Gtk::Requisition minimum, natural;
+    fresh.get_preferred_size(minimum, natural);
+    return std::pair(minimum.get_width(), minimum.get_height());
+  };
+  const auto empty = leastSize();
+  ASSERT_TRUE(tests::eventually([&] { return !tests::all<ContentView>(fresh).empty(); }));
+  const auto* client = tests::all<ContentView>(fresh).front();
+  ASSERT_TRUE(tests::eventually([&] { return client->get_width() > 0; }));
+  EXPECT_EQ(leastSize(), empty);
+  EXPECT_EQ(client->get_width(), ContentView::minimumWidth);
+  EXPECT_EQ(client->get_height(), ContentView::minimumHeight);
+  fresh.set_visible(false);
+  fresh.present();
+  settle();
+  EXPECT_THAT(tests::all<ContentView>(fresh), ElementsAre(client));
+  fresh.close();
+}
+
 TEST_F(MainWindowTest, TheMenuBarHasTheMenuQuorvelWithItsSevenEntriesAndNoOther) {
   const auto bar = menuBar().get_menu_model();
   EXPECT_THAT(lines(bar), ElementsAre("Quorvel"));
