@@ -79,11 +79,7 @@ void DesktopBrowserModel::copyState() {
   canGoBack = webView_.canGoBack();
   canGoForward = webView_.canGoForward();
   isLoading = webView_.isLoading();
-  // A page's address may be megabytes long: it is copied no more often than it must be.
-  currentURLString.update([seen = webView_.address()](std::string& address) mutable {
-    if (!seen.empty())
-      address.swap(seen);
-  });
+  currentURLString.update([this](std::string& address) { webView_.copyAddress(address); });
   title = webView_.title().value_or("Quorvel");
 }
 

@@ -13,6 +13,7 @@
 #include "engine/makeView.h"
 #include "engine/printDialog.h"
 
+#include <cstring>
 #include <utility>
 
 namespace quorvel {
@@ -250,11 +251,18 @@ bool WebView::isLoading() const {
 }
 
 std::string WebView::address() const {
-  auto address = addressOf(engine_->view());
-  // While a redirect to a mail address is being refused, the view names it as its own. Its beginning tells.
-  if (choose({address.substr(0, 32)}) == NavigationChoice::system)
-    address.clear();
+  std::string address;
+  copyAddress(address);
   return address;
+}
+
+void WebView::copyAddress(std::string& address) const {
+  const char* seen = webkit_web_view_get_uri(engine_->view());
+  if (!seen || !*seen || address == seen)
+    return;
+  // While a redirect to a mail address is being refused, the view names it as its own. Its beginning tells.
+  if (choose({std::string(seen, strnlen(seen, 32))}) != NavigationChoice::system)
+    address = seen;
 }
 
 std::optional<std::string> WebView::title() const {

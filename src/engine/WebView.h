@@ -61,6 +61,9 @@ class WebView {
   bool isLoading() const;
   /// The address on screen; empty where there is none, as after the page's process has died.
   std::string address() const;
+  /// The same into `address`, which stays as it is where there is none. A page's address may be megabytes
+  /// long and change all the time: it is copied no more often than it must be.
+  void copyAddress(std::string& address) const;
   /// The page's title, which may be empty; nothing where the page names none.
   std::optional<std::string> title() const;
 
