@@ -1,8 +1,10 @@
 #include "startup/lastWords.h"
 
+#include <array>
 #include <glib.h>
 #include <iostream>
 #include <string_view>
+#include <unistd.h>
 
 namespace quorvel {
 namespace {
@@ -32,25 +34,43 @@ std::string_view message(const GLogField* fields, gsize count) {
   return "unknown";
 }
 
-void explain(std::string_view message) {
+std::string sentenceFor(std::string_view message) {
+  std::string sentence = "Quorvel has to stop: ";
   for (const auto& [beginning, before, after] : explanations)
-    if (message.starts_with(beginning)) {
-      std::cerr << "Quorvel has to stop: " << before << " (" << message << ")." << after << std::endl;
-      return;
-    }
+    if (message.starts_with(beginning))
+      return sentence.append(before).append(" (").append(message).append(").").append(after);
+  return sentence;
 }
 
-GLogWriterOutput write(GLogLevelFlags level, const GLogField* fields, gsize count, gpointer) {
+GLogWriterOutput write(GLogLevelFlags level, const GLogField* fields, gsize count, gpointer show) {
   if (!(level & G_LOG_LEVEL_ERROR))
     return g_log_writer_default(level, fields, count, nullptr);
-  explain(message(fields, count));
+  const auto sentence = sentenceFor(message(fields, count));
+  std::cerr << sentence << std::endl;
+  reinterpret_cast<ShowSentence>(show)(sentence);
   return G_LOG_WRITER_HANDLED;
 }
 
+/// No option for anybody to give: the program alone gives it to itself.
+constexpr auto option = "--show-last-words";
+
 } // namespace
 
-void explainFatalErrors() {
-  g_log_set_writer_func(write, nullptr, nullptr);
+void explainFatalErrors(ShowSentence show) {
+  g_log_set_writer_func(write, reinterpret_cast<gpointer>(show), nullptr);
+}
+
+void showInProgramOfItsOwn(const std::string& sentence) {
+  if (isatty(STDERR_FILENO))
+    return;
+  std::array<std::string, 3> words{"/proc/self/exe", option, sentence};
+  std::array<char*, 4> command{words[0].data(), words[1].data(), words[2].data(), nullptr};
+  g_spawn_async(nullptr, command.data(), nullptr, G_SPAWN_DEFAULT, nullptr, nullptr, nullptr, nullptr);
+}
+
+std::optional<std::string> sentenceToShow(int argc, char** argv) {
+  return argc == 3 && std::string_view(argv[1]) == option ? std::optional<std::string>(argv[2])
+                                                          : std::nullopt;
 }
 
 } // namespace quorvel

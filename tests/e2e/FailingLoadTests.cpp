@@ -114,6 +114,21 @@ TEST_F(LoadingTest, APageWhoseProcessDiesWhileItStartsEndsTheProgramWithWordsTha
   EXPECT_THAT(client().said(),
               HasSubstr("Quorvel has to stop: a process of the web engine ended while it was starting"));
   EXPECT_THAT(client().said(), Not(HasSubstr("It needs bubblewrap")));
+
+  // Whoever started it from the desktop's menu does not see that.
+  const auto shown = [] {
+    return outputOf({"xdotool", "search", "--onlyvisible", "--name", "^Quorvel has stopped$"});
+  };
+  EXPECT_TRUE(eventually(shown, Not(IsEmpty())));
+  const auto id = shown();
+  const auto program = Accessible::ofProcess(std::stoi(outputOf({"xdotool", "getwindowpid", id})));
+  ASSERT_TRUE(program.has_value());
+  std::vector<std::string> heard;
+  for (const auto& object : program->all())
+    heard.push_back(object.name());
+  EXPECT_THAT(heard, AllOf(Contains(HasSubstr("ended while it was starting")), Contains("Close")));
+  outputOf({"xdotool", "windowfocus", "--sync", id, "key", "Return"});
+  EXPECT_TRUE(eventually(shown, IsEmpty()));
 }
 
 TEST_F(LoadingTest, ReloadBringsBackAPageWhoseProcessHasDied) {

@@ -1,3 +1,5 @@
+#include "brand/StyleSheet.h"
+#include "programs/client/FailureWindow.h"
 #include "programs/client/QuorvelApp.h"
 #include "startup/commandLine.h"
 #include "startup/lastWords.h"
@@ -6,14 +8,31 @@
 
 #include <cstdlib>
 
-int main(int argc, char** argv) {
-  constexpr quorvel::ProgramName program{quorvel::QuorvelApp::identifier, "Quorvel", "quorvel",
-                                         "The desktop client of the Quorvel service."};
-  if (const auto status = quorvel::answerCommandLine(program, argc, argv))
-    return *status;
-  quorvel::explainFatalErrors();
-  quorvel::refuseOutdatedTransport();
-  if (!quorvel::startToolkit(program))
+namespace {
+
+using namespace quorvel;
+
+constexpr ProgramName program{QuorvelApp::identifier, "Quorvel", "quorvel",
+                              "The desktop client of the Quorvel service."};
+
+int showLastWords(const std::string& sentence) {
+  if (!startToolkit(program))
     return EXIT_FAILURE;
-  return Glib::make_refptr_for_instance(new quorvel::QuorvelApp)->run(argc, argv);
+  const auto application = Gtk::Application::create();
+  application->signal_startup().connect(&installStyle);
+  return application->make_window_and_run<FailureWindow>(0, nullptr, sentence);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  if (const auto sentence = sentenceToShow(argc, argv))
+    return showLastWords(*sentence);
+  if (const auto status = answerCommandLine(program, argc, argv))
+    return *status;
+  explainFatalErrors(&showInProgramOfItsOwn);
+  refuseOutdatedTransport();
+  if (!startToolkit(program))
+    return EXIT_FAILURE;
+  return Glib::make_refptr_for_instance(new QuorvelApp)->run(argc, argv);
 }
