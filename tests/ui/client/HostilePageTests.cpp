@@ -155,7 +155,6 @@ INSTANTIATE_TEST_SUITE_P(
         Trick{"States", always("history.replaceState({}, '', '?' + n++)")},
         Trick{"Reloads", always("location.reload()")}, Trick{"Forms", always("form.submit()")},
         Trick{"Links", always("link.click()")}, Trick{"Stops", always("window.stop()")},
-        Trick{"Journeys", always("history.go(n++ % 2 ? 1 : -1)")},
         Trick{"WindowsOfNothing", always("open('about:blank'); open('javascript:1')")},
         Trick{"WindowsForForms", always("form.target = '_blank'; form.submit()")},
         Trick{"FramesInFrames", always("document.body.innerHTML ="
