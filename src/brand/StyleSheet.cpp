@@ -2,12 +2,12 @@
 
 #include "brand/QuorvelBrand.h"
 #include "brand/Typography.h"
+#include "brand/toolkitTheme.h"
 
 #include <array>
 #include <giomm/resource.h>
 #include <gtkmm/cssprovider.h>
 #include <gtkmm/icontheme.h>
-#include <gtkmm/settings.h>
 #include <gtkmm/stylecontext.h>
 #include <sstream>
 
@@ -94,7 +94,7 @@ std::string styleSheet() {
 
 void installStyle() {
   const auto display = Gdk::Display::get_default();
-  Gtk::Settings::get_for_display(display)->property_gtk_application_prefer_dark_theme() = true;
+  keepToolkitDark();
   const auto provider = Gtk::CssProvider::create();
   provider->load_from_data(styleSheet());
   Gtk::StyleContext::add_provider_for_display(display, provider, GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);

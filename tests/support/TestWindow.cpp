@@ -16,21 +16,6 @@ bool hasAccessibleText(Gtk::Widget& widget, GtkAccessibleProperty property, cons
   return isSame;
 }
 
-/// All of a window once it has drawn what was announced.
-Cairo::RefPtr<Cairo::ImageSurface> drawingOf(Gtk::Window& window) {
-  drawFrame(window);
-  const auto paintable = Gtk::WidgetPaintable::create(window);
-  const int width = paintable->get_intrinsic_width(), height = paintable->get_intrinsic_height();
-  const auto snapshot = Gtk::Snapshot::create();
-  paintable->snapshot(snapshot, width, height);
-  auto* node = gtk_snapshot_to_node(snapshot->gobj());
-  const auto surface = Cairo::ImageSurface::create(Cairo::Surface::Format::ARGB32, width, height);
-  gsk_render_node_draw(node, Cairo::Context::create(surface)->cobj());
-  gsk_render_node_unref(node);
-  surface->flush();
-  return surface;
-}
-
 } // namespace
 
 TestWindow::TestWindow(Gtk::Widget& widget, int width, int height) : widget_(widget) {
@@ -80,6 +65,20 @@ std::vector<unsigned char> TestWindow::picture() {
 
 void TestWindow::savePicture(const std::string& path) {
   tests::savePicture(*this, path);
+}
+
+Cairo::RefPtr<Cairo::ImageSurface> drawingOf(Gtk::Widget& window) {
+  drawFrame(window);
+  const auto paintable = Gtk::WidgetPaintable::create(window);
+  const int width = paintable->get_intrinsic_width(), height = paintable->get_intrinsic_height();
+  const auto snapshot = Gtk::Snapshot::create();
+  paintable->snapshot(snapshot, width, height);
+  auto* node = gtk_snapshot_to_node(snapshot->gobj());
+  const auto surface = Cairo::ImageSurface::create(Cairo::Surface::Format::ARGB32, width, height);
+  gsk_render_node_draw(node, Cairo::Context::create(surface)->cobj());
+  gsk_render_node_unref(node);
+  surface->flush();
+  return surface;
 }
 
 void savePicture(Gtk::Window& window, const std::string& path) {

@@ -40,6 +40,8 @@ MATCHER_P(IsColor, expected, "") {
   return same(arg.red, expected.red) && same(arg.green, expected.green) && same(arg.blue, expected.blue);
 }
 
+/// All of a window or menu, once it has drawn what was announced.
+Cairo::RefPtr<Cairo::ImageSurface> drawingOf(Gtk::Widget& window);
 /// Writes all of a window, with its header bar, into a PNG file.
 void savePicture(Gtk::Window& window, const std::string& path);
 

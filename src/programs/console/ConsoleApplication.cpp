@@ -94,7 +94,9 @@ std::unique_ptr<Gtk::Window> ConsoleApplication::makeWindow() {
   window->set_icon_name(identifier);
   auto* header = Gtk::make_managed<Gtk::HeaderBar>();
   header->add_css_class("slim");
-  header->pack_end(*Gtk::make_managed<PrimaryMenu>(program_));
+  auto* menu = Gtk::make_managed<PrimaryMenu>(program_);
+  menu->set_primary(true); // F10 opens it: there is no menu bar
+  header->pack_end(*menu);
   window->set_titlebar(*header);
   window->set_child(*Gtk::make_managed<ConsoleColumns>(store_, preferences_));
   window->set_default_size(defaultWidth, defaultHeight);

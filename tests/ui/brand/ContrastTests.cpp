@@ -1,6 +1,6 @@
 #include "brand/QuorvelBrand.h"
+#include "support/Contrast.h"
 
-#include <cmath>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <sstream>
@@ -11,6 +11,7 @@ namespace quorvel {
 namespace {
 
 using ::testing::ElementsAreArray;
+using tests::over;
 
 struct Named {
   std::string name;
@@ -25,22 +26,8 @@ struct Pair {
 
 constexpr double forText = 4.5, forMarks = 3;
 
-Color over(const Color& upper, const Color& lower) {
-  const auto mixed = [&](double a, double b) { return a * upper.alpha + b * (1 - upper.alpha); };
-  return {mixed(upper.red, lower.red), mixed(upper.green, lower.green), mixed(upper.blue, lower.blue)};
-}
-
-double luminance(const Color& color) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
-}
-
 double ratio(const Pair& pair) {
-  const double mark = luminance(over(pair.mark.color, pair.ground.color)),
-               ground = luminance(pair.ground.color);
-  return (std::max(mark, ground) + 0.05) / (std::min(mark, ground) + 0.05);
+  return tests::contrast(pair.mark.color, pair.ground.color);
 }
 
 const Named background{"background", QuorvelBrand::background}, panel{"panel", QuorvelBrand::panel},

@@ -270,6 +270,25 @@ TEST_F(ContentViewTest, AtTheLeastWidthTheSidebarKeepsItsWidthAndThePageTakesThe
   EXPECT_THAT(window->pixel(306, 400), IsColor(Color{0.122, 0.123, 0.124})) << "the line on the background";
 }
 
+TEST_F(ContentViewTest, ForThoseWhoWantNoMotionNothingMovesWhileAPageLoads) {
+  auto motion = Gtk::Settings::get_default()->property_gtk_enable_animations();
+  motion = false;
+  server.silence("/silent");
+  model->load(server.address("/silent"));
+  EXPECT_TRUE(tests::eventually([&] { return the<Gtk::Spinner>().get_mapped(); }));
+  const auto hovered = [&](bool isHovered) {
+    auto& reload = button("Reload");
+    isHovered ? reload.set_state_flags(Gtk::StateFlags::PRELIGHT, false)
+              : reload.unset_state_flags(Gtk::StateFlags::PRELIGHT);
+    return window->picture();
+  };
+  const auto before = hovered(false), during = hovered(true);
+  EXPECT_NE(before, during) << "only the motion is left out";
+  for (int i = 0; i < 10; ++i)
+    EXPECT_EQ(window->picture(), during) << "frame " << i;
+  motion = true;
+}
+
 TEST_F(ContentViewTest, AWarningStandsAboveThePageAndIsNeverCut) {
   std::string sentence = "Pages are not confined";
   for (int i = 0; i < 40; ++i)

@@ -1,5 +1,6 @@
 #include "programs/console/ConsoleApplication.h"
 
+#include "commands/PrimaryMenu.h"
 #include "console/SidebarView.h"
 #include "support/RealInput.h"
 #include "support/TestWindow.h"
@@ -56,6 +57,20 @@ TEST(ConsoleInput, ControlWithADigitSelectsItsSectionWhereverTheFocusIs) {
       EXPECT_TRUE(becomes(section)) << title(section);
     }
     strikeKey("ctrl+q");
+  };
+  application->signal_startup().connect([&] { Glib::signal_idle().connect_once(useKeys); });
+  EXPECT_EQ(application->run(), 0);
+}
+
+TEST(ConsoleInput, F10OpensTheMenu) {
+  const auto application = ConsoleApplication::create(Gio::Application::Flags::NON_UNIQUE);
+  const auto useKeys = [&] {
+    auto& window = *application->get_windows().front();
+    EXPECT_TRUE(eventually([&] { return row(window, WorkspaceSection::pricing).get_width() > 0; }));
+    clickOn(row(window, WorkspaceSection::pricing));
+    strikeKey("F10");
+    EXPECT_TRUE(eventually([&] { return all<PrimaryMenu>(window).front()->get_popover()->get_mapped(); }));
+    application->quit();
   };
   application->signal_startup().connect([&] { Glib::signal_idle().connect_once(useKeys); });
   EXPECT_EQ(application->run(), 0);

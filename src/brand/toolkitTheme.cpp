@@ -1,0 +1,42 @@
+#include "brand/toolkitTheme.h"
+
+#include <gtkmm/cssprovider.h>
+#include <gtkmm/settings.h>
+#include <gtkmm/stylecontext.h>
+#include <string>
+
+namespace quorvel {
+namespace {
+
+/// Above the theme, which the toolkit counts among the settings, and below the rules of this project.
+constexpr int aboveTheme = GTK_STYLE_PROVIDER_PRIORITY_SETTINGS + 1;
+
+/// As the toolkit finds it. What the environment names goes first, and stays light unless it says otherwise.
+std::string themeInUse(const Gtk::Settings& settings) {
+  const char* named = g_getenv("GTK_THEME");
+  return named && *named ? named : settings.property_gtk_theme_name().get_value().raw();
+}
+
+} // namespace
+
+void keepToolkitDark() {
+  const auto display = Gdk::Display::get_default();
+  const auto settings = Gtk::Settings::get_for_display(display);
+  settings->property_gtk_application_prefer_dark_theme() = true;
+  const auto nothing = Gtk::CssProvider::create(), darkTheme = Gtk::CssProvider::create();
+  nothing->load_from_data("* { all: unset; }");
+  const auto follow = [display, nothing, darkTheme, settings = settings.get()] {
+    const auto theme = themeInUse(*settings);
+    for (const auto& provider : {nothing, darkTheme})
+      Gtk::StyleContext::remove_provider_for_display(display, provider);
+    if (theme == "Default" || theme == "Default:dark")
+      return;
+    darkTheme->load_named("Default", theme.starts_with("HighContrast") ? "hc-dark" : "dark");
+    Gtk::StyleContext::add_provider_for_display(display, nothing, aboveTheme);
+    Gtk::StyleContext::add_provider_for_display(display, darkTheme, aboveTheme + 1);
+  };
+  settings->property_gtk_theme_name().signal_changed().connect(follow);
+  follow();
+}
+
+} // namespace quorvel
