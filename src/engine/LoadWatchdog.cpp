@@ -16,6 +16,11 @@ LoadWatchdog::LoadWatchdog(WebKitWebView* view, TimerFunction startTimer, Owner 
   for (const char* signal :
        {"notify::is-loading", "notify::estimated-load-progress", "resource-load-started"})
     g_signal_connect_swapped(view_, signal, G_CALLBACK(onProgress), this);
+  const auto onQuestion = +[](WebKitWebView*, WebKitAuthenticationRequest*, LoadWatchdog* self) -> gboolean {
+    self->leaveToOwner();
+    return FALSE; // the engine asks
+  };
+  g_signal_connect(view_, "authenticate", G_CALLBACK(onQuestion), this);
 }
 
 LoadWatchdog::~LoadWatchdog() {
@@ -47,6 +52,12 @@ void LoadWatchdog::noteEvent(WebKitLoadEvent event) {
   if (webkit_web_view_is_loading(view_))
     timer_.restart();
   noteProgress();
+}
+
+/// The server asks who this is. Nobody takes the question away while its owner looks for the answer.
+void LoadWatchdog::leaveToOwner() {
+  request_ = Request::none;
+  timer_.stop();
 }
 
 /// Only what the announced request itself does counts while it is under way.

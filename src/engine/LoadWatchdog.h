@@ -14,8 +14,8 @@ namespace quorvel {
 /// A load that was announced here is broken off when its request, and nothing else, has been silent for
 /// `StallTimer::limit`: what has come of its document is counted by asking for it. Any other load, and what a
 /// document loads in its turn, is never touched. But where a page's process does not even answer, as while it
-/// computes for ever, the view counts as loading no longer until it does. The view has to outlive the
-/// watchdog.
+/// computes for ever, the view counts as loading no longer until it does. A load whose server asks for a
+/// sign-in is left to its owner. The view has to outlive the watchdog.
 class LoadWatchdog {
  public:
   /// How long the page's process may take to answer when it is asked.
@@ -40,6 +40,7 @@ class LoadWatchdog {
   enum class Request { none, asked, answered };
 
   void noteEvent(WebKitLoadEvent event);
+  void leaveToOwner();
   void noteProgress();
   void noteEndOfRequest();
   void followDocument(WebKitWebResource* document);

@@ -1,5 +1,6 @@
 #include "engine/makeView.h"
 
+#include "engine/pageGround.h"
 #include "engine/permissions.h"
 #include "engine/swipes.h"
 
@@ -57,6 +58,7 @@ GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   makeScrollbarsSlim(WEBKIT_WEB_VIEW(view));
   allowSwipes(WEBKIT_WEB_VIEW(view));
   keepTabMoving(WEBKIT_WEB_VIEW(view));
+  keepGroundDark(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }
 

@@ -20,7 +20,7 @@ std::size_t index(PreferenceKey key) {
 
 Preferences::Preferences(const std::string& path)
     : file_(path), watch_(path, [this] { followFile(); }), untilNextTry_(firstPause) {
-  file_.prepareFolder();
+  file_.tidyFolder();
   stored_ = valuesIn(file_.read().value_or(PreferencesText()));
 }
 

@@ -19,8 +19,7 @@ std::string folderOf(const std::string& path) {
 
 } // namespace
 
-void PreferencesFile::prepareFolder() const {
-  makeFolder();
+void PreferencesFile::tidyFolder() const {
   const auto place = behindLinks(path_);
   if (!place)
     return;

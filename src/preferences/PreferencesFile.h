@@ -18,9 +18,9 @@ class PreferencesFile {
   /// `path` is absolute.
   explicit PreferencesFile(std::string path) : path_(std::move(path)) {}
 
-  /// Makes the folder the file stands in, with mode 0700, where it is missing, and removes what killed
-  /// programs left there half written. Failing is no error here.
-  void prepareFolder() const;
+  /// Removes what killed programs left half written in the folder the file stands in. Failing is no error
+  /// here.
+  void tidyFolder() const;
 
   /// The file's text; empty where there is no file. Nothing if there is something that cannot be read as one:
   /// no right to, no regular file, broken in its encoding, or larger than any preferences file can be.

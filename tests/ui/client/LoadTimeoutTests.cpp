@@ -171,5 +171,46 @@ TEST_F(LoadTimeoutTest, APageThatComputesForEverEndsTheLoadingState) {
   EXPECT_TRUE(tests::eventually([&] { return !model->isLoading; }));
 }
 
+/// A server that lets only those in who say who they are, and a question for it that is still open.
+class SignInTimeoutTest : public LoadTimeoutTest {
+ protected:
+  void SetUp() override {
+    server.answer("/private.html", [](SoupServerMessage* message) {
+      const auto* said =
+          soup_message_headers_get_one(soup_server_message_get_request_headers(message), "Authorization");
+      auto* headers = soup_server_message_get_response_headers(message);
+      const std::string body = said ? "<title>Private</title>" : "<title>Nobody</title>";
+      soup_server_message_set_status(message, said ? SOUP_STATUS_OK : SOUP_STATUS_UNAUTHORIZED, nullptr);
+      soup_message_headers_replace(headers, "WWW-Authenticate", "Basic realm=\"Owners\"");
+      soup_server_message_set_response(message, "text/html", SOUP_MEMORY_COPY, body.data(), body.size());
+    });
+    const auto onQuestion =
+        +[](WebKitWebView*, WebKitAuthenticationRequest* asked, SignInTimeoutTest* self) -> gboolean {
+      self->question.reset(WEBKIT_AUTHENTICATION_REQUEST(g_object_ref(asked)));
+      return FALSE; // the engine's own dialog
+    };
+    g_signal_connect(webView(), "authenticate", G_CALLBACK(onQuestion), this);
+  }
+
+  GObjectPointer<WebKitAuthenticationRequest> question;
+};
+
+TEST_F(SignInTimeoutTest, NoTimerTakesTheQuestionAway) {
+  show("/agent.html");
+  model->load(server.address("/private.html"));
+  ASSERT_TRUE(tests::eventually([&] { return question != nullptr; }));
+  letTimePass();
+  for (const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(1);
+       std::chrono::steady_clock::now() < end;) {
+    spendTime(); // as long as nothing that the owner asks for takes, twenty times as fast
+    Glib::MainContext::get_default()->iteration(false);
+  }
+  std::unique_ptr<WebKitCredential, decltype(&webkit_credential_free)> credential(
+      webkit_credential_new("owner", "secret", WEBKIT_CREDENTIAL_PERSISTENCE_NONE), webkit_credential_free);
+  webkit_authentication_request_authenticate(question.get(), credential.get());
+  EXPECT_TRUE(tests::eventually([&] { return *model->title; }, ::testing::Eq("Private")));
+  EXPECT_EQ(server.count("/private.html"), 2);
+}
+
 } // namespace
 } // namespace quorvel

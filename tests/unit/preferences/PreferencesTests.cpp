@@ -9,11 +9,11 @@ namespace {
 
 using ::testing::ElementsAre;
 
-TEST_F(PreferencesTest, OnAFreshAccountEverySwitchIsOnAndNoFileIsMade) {
+TEST_F(PreferencesTest, OnAFreshAccountEverySwitchIsOnAndNothingIsMade) {
   const Preferences preferences(file);
   for (const auto key : allCases<Key>())
     EXPECT_TRUE(preferences.isOn(key)) << rawValue(key);
-  EXPECT_FALSE(fs::exists(file));
+  EXPECT_FALSE(fs::exists(folder)) << "not even the folder";
 }
 
 TEST_F(PreferencesTest, AFlippedSwitchIsInTheFileAtOnceAndAlone) {
@@ -152,6 +152,7 @@ TEST_F(PreferencesTest, ProgramsThatFlipDifferentKeysAtTheSameTimeLoseNothing) {
 }
 
 TEST_F(PreferencesTest, WhileAnotherProgramHoldsTheLockASwitchWorksInMemoryAndIsWrittenWithTheNext) {
+  fs::create_directories(folder);
   Preferences preferences(file);
   const int lock = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   ASSERT_EQ(::flock(lock, LOCK_EX), 0);
