@@ -21,7 +21,7 @@ GObjectPointer<WebKitSettings> makeSettings() {
 }
 
 /// The engine keeps a text view inside its own for input methods. As a stop of the Tab key it would never be
-/// left.
+/// left (WebKitGTK 2.50 and 2.52).
 void keepTabMoving(WebKitWebView* view) {
   for (auto* child = gtk_widget_get_first_child(GTK_WIDGET(view)); child;
        child = gtk_widget_get_next_sibling(child))

@@ -1,0 +1,40 @@
+#include "engine/GObjectPointer.h"
+#include "support/TemporaryFolder.h"
+
+#include <csignal>
+#include <fstream>
+#include <glib.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <webkit/webkit.h>
+
+namespace quorvel {
+namespace {
+
+// What these find at fault the engine room works around. One that fails says that the engine has been mended,
+// and that the workaround can go as soon as no older engine is supported.
+
+TEST(Workaround, TheEngineStillHasATextViewThatTabNeverLeaves) {
+  const GObjectPointer<GtkWidget> view(GTK_WIDGET(g_object_ref_sink(webkit_web_view_new())));
+  GtkWidget* inner = gtk_widget_get_first_child(view.get());
+  ASSERT_TRUE(inner) << "see keepTabMoving()";
+  EXPECT_TRUE(gtk_widget_get_focusable(inner)) << "see keepTabMoving()";
+}
+
+TEST(Workaround, TheEngineStillCrashesWhereItTakesAPictureForSwipesWithoutAWindow) {
+  const tests::TemporaryFolder pages;
+  std::string addresses[2];
+  for (auto& address : addresses) {
+    const auto page = pages.path / (&address == addresses ? "one.html" : "other.html");
+    std::ofstream(page) << "<title>Page</title>";
+    address = "file://" + page.string();
+  }
+  const char* command[] = {QUORVEL_WINDOWLESS_SWIPE, addresses[0].c_str(), addresses[1].c_str(), nullptr};
+  int status = 0;
+  ASSERT_TRUE(g_spawn_sync(nullptr, const_cast<char**>(command), nullptr, G_SPAWN_STDERR_TO_DEV_NULL, nullptr,
+                           nullptr, nullptr, nullptr, &status, nullptr));
+  EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGSEGV) << status << ", see allowSwipes()";
+}
+
+} // namespace
+} // namespace quorvel
