@@ -10,6 +10,7 @@
 #include "observation/observe.h"
 
 #include <algorithm>
+#include <glibmm/miscutils.h>
 #include <gtkmm/eventcontrollerfocus.h>
 #include <gtkmm/eventcontrollermotion.h>
 #include <gtkmm/progressbar.h>
