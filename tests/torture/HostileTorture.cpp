@@ -117,7 +117,7 @@ class HostileTorture : public ClientTest, public testing::WithParamInterface<Hos
     launch();
     EXPECT_TRUE(eventually([&] { return client().isEnabled("Pricing"); }));
     begin(client().process());
-    const auto answer = worstAnswer(*client().window(), time);
+    const auto answer = worstAnswer(*client().window(), time_);
     const auto wayOut = timeToPricing();
     quit();
     return {answer, wayOut};
@@ -132,7 +132,7 @@ class HostileTorture : public ClientTest, public testing::WithParamInterface<Hos
     };
     EXPECT_TRUE(eventually(look));
     begin(bareWindow);
-    const auto answer = worstAnswer(windows.front(), time);
+    const auto answer = worstAnswer(windows.front(), time_);
     for (const auto page : descendants(bareWindow.id(), pageProcess))
       ::kill(page, SIGKILL); // it would go on for ten seconds
     return answer;
@@ -158,7 +158,7 @@ class HostileTorture : public ClientTest, public testing::WithParamInterface<Hos
     return std::chrono::duration_cast<milliseconds>(Clock::now() - pressed);
   }
 
-  const milliseconds time{isWhole() ? 2'000 : 1'000};
+  const milliseconds time_{isWhole() ? 2'000 : 1'000};
 };
 
 TEST_P(HostileTorture, HoldsTheWindowNoMoreThanABareOneAndItsOwnerForFiveSecondsAtTheMost) {

@@ -1,7 +1,6 @@
 #include "client/DownloadsView.h"
 
 #include "client/ContentView.h"
-#include "client/displayedFileName.h"
 #include "support/RealInput.h"
 #include "support/TextChecks.h"
 #include "support/TextScale.h"

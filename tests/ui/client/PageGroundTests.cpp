@@ -1,4 +1,4 @@
-#include "support/RealInput.h"
+#include "support/TestWindow.h"
 #include "ui/client/ModelTest.h"
 
 namespace quorvel {

@@ -2,10 +2,10 @@
 #include "support/TemporaryFolder.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <glib.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <webkit/webkit.h>
 
 namespace quorvel {

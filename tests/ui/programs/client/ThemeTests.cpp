@@ -1,7 +1,6 @@
 #include "commands/AboutView.h"
 #include "commands/PrimaryMenu.h"
 #include "commands/ShortcutsView.h"
-#include "programs/client/CommandMenu.h"
 #include "settings/SettingsView.h"
 #include "support/Contrast.h"
 #include "support/ThemeChoice.h"
