@@ -1,9 +1,9 @@
 #include "engine/CommandRunner.h"
 
 #include "engine/engineTexts.h"
+#include "engine/ownWorld.h"
 
 #include <glibmm/main.h>
-#include <memory>
 #include <utility>
 
 namespace quorvel {
@@ -149,19 +149,9 @@ bool CommandRunner::claims(WebKitNavigationAction* action) {
 }
 
 void CommandRunner::ask() {
-  const auto onAnswer = +[](GObject* view, GAsyncResult* result, gpointer self) {
-    g_autoptr(GError) error = nullptr;
-    g_autoptr(JSCValue) value =
-        webkit_web_view_evaluate_javascript_finish(WEBKIT_WEB_VIEW(view), result, &error);
-    const std::unique_ptr<char, decltype(&g_free)> place(value ? jsc_value_to_string(value) : nullptr,
-                                                         g_free);
-    if (!g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED))
-      static_cast<CommandRunner*>(self)->noteAnswer(place ? place.get() : "");
-  };
   g_cancellable_cancel(question_.get());
   question_.reset(g_cancellable_new());
-  webkit_web_view_evaluate_javascript(view_, "location.href", -1, "quorvel", nullptr, question_.get(),
-                                      onAnswer, this);
+  askPage(view_, "location.href", question_.get(), [this](const std::string& place) { noteAnswer(place); });
 }
 
 void CommandRunner::noteAnswer(const std::string& place) {

@@ -1,5 +1,7 @@
 #include "engine/PageKeys.h"
 
+#include "engine/ownWorld.h"
+
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -8,10 +10,8 @@
 namespace quorvel {
 namespace {
 
-constexpr auto channel = "pageKey", ownWorld = "quorvel";
-
 // Being there before the page's scripts it hears of every key, and waits until they have had theirs.
-constexpr auto script = R"(addEventListener('keydown', event => {
+constexpr auto listener = R"(addEventListener('keydown', event => {
   const isArrow = event.key == 'ArrowLeft' || event.key == 'ArrowRight';
   const isHistoryKey = isArrow && event.altKey && !event.ctrlKey && !event.shiftKey && !event.repeat;
   const isUndoKey = event.key.toLowerCase() == 'z' && event.ctrlKey && !event.altKey;
@@ -42,12 +42,8 @@ void PageKeys::listenInPages() {
     self->answer(name.get());
   };
   g_signal_connect(content, "script-message-received::pageKey", G_CALLBACK(onKey), this);
-  webkit_user_content_manager_register_script_message_handler(content, channel, ownWorld);
-  auto* listener = webkit_user_script_new_for_world(script, WEBKIT_USER_CONTENT_INJECT_ALL_FRAMES,
-                                                    WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, ownWorld,
-                                                    nullptr, nullptr);
-  webkit_user_content_manager_add_script(content, listener);
-  webkit_user_script_unref(listener);
+  runInPages(view_, {listener, "pageKey", WEBKIT_USER_CONTENT_INJECT_ALL_FRAMES,
+                     WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START});
 }
 
 void PageKeys::answer(const char* key) {
@@ -95,14 +91,7 @@ void PageKeys::notePress(guint letter, GdkModifierType held) {
 
 /// The process reads keys and questions in their order.
 void PageKeys::ask() {
-  const auto onAnswer = +[](GObject* view, GAsyncResult* result, gpointer self) {
-    g_autoptr(GError) error = nullptr;
-    g_autoptr(JSCValue) value =
-        webkit_web_view_evaluate_javascript_finish(WEBKIT_WEB_VIEW(view), result, &error);
-    if (!g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED))
-      static_cast<PageKeys*>(self)->timer_.disconnect();
-  };
-  webkit_web_view_evaluate_javascript(view_, "0", -1, ownWorld, nullptr, question_.get(), onAnswer, this);
+  askPage(view_, "0", question_.get(), [this](const std::string&) { timer_.disconnect(); });
 }
 
 void PageKeys::forgetQuestion() {

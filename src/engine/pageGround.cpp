@@ -1,12 +1,12 @@
 #include "engine/pageGround.h"
 
+#include "engine/ownWorld.h"
+
 namespace quorvel {
 namespace {
 
-constexpr auto channel = "pageGround", ownWorld = "quorvel";
-
 // A page that comes back from the history shows itself without being read once more.
-constexpr auto script = R"({
+constexpr auto look = R"({
   const isBare = style => style.backgroundImage == 'none' && /^rgba.*, 0\)$/.test(style.backgroundColor);
   const look = () => {
     const root = document.documentElement, styles = [root, document.body ?? root].map(each => getComputedStyle(each));
@@ -36,12 +36,8 @@ void keepGroundDark(WebKitWebView* view) {
   };
   g_signal_connect_object(content, "script-message-received::pageGround", G_CALLBACK(onBarePage), view,
                           GConnectFlags(0));
-  webkit_user_content_manager_register_script_message_handler(content, channel, ownWorld);
-  auto* look =
-      webkit_user_script_new_for_world(script, WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
-                                       WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_END, ownWorld, nullptr, nullptr);
-  webkit_user_content_manager_add_script(content, look);
-  webkit_user_script_unref(look);
+  runInPages(view, {look, "pageGround", WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
+                    WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_END});
 }
 
 } // namespace quorvel
