@@ -1,7 +1,7 @@
-#include "client/ContentView.h"
 
 #include "brand/QuorvelBrand.h"
 #include "client/AddressField.h"
+#include "client/ContentView.h"
 #include "client/DesktopClientNavRow.h"
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
@@ -12,6 +12,7 @@
 #include "support/RightToLeft.h"
 #include "support/TextChecks.h"
 #include "support/TextScale.h"
+#include "ui/client/ContentWindow.h"
 #include "ui/client/ModelTest.h"
 
 #include <fstream>
@@ -43,22 +44,14 @@ long memory() {
 }
 
 /// The content of the client's window at its least size, on a real model.
-class ContentViewTest : public ModelTest {
+class ContentViewTest : public ModelTest, protected tests::ContentWindow {
  protected:
   void SetUp() override {
     show("/agent.html");
-    open();
+    open(*model);
   }
   void TearDown() override { close(); }
 
-  void open() {
-    view = std::make_unique<ContentView>(*model);
-    window = std::make_unique<TestWindow>(*view, ContentView::minimumWidth, ContentView::minimumHeight);
-  }
-  void close() {
-    window.reset();
-    view.reset();
-  }
   /// Shows a page and what the model then says.
   void showPage(const std::string& path) {
     show(path);
@@ -86,9 +79,6 @@ class ContentViewTest : public ModelTest {
         titles.push_back(tests::texts(*row).front());
     return titles;
   }
-
-  std::unique_ptr<ContentView> view;
-  std::unique_ptr<TestWindow> window;
 };
 
 TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
@@ -234,7 +224,7 @@ TEST_F(ContentViewTest, InLargeTextNothingIsCutAndNothingOverlaps) {
     SCOPED_TRACE(factor);
     close();
     const tests::TextScale large(factor);
-    open();
+    open(*model);
     EXPECT_THAT(tests::cutTexts(*view), IsEmpty());
     EXPECT_THAT(tests::overlappingTexts(*view), IsEmpty());
     EXPECT_THAT(tests::overlappingParts(*view), IsEmpty());
@@ -587,7 +577,7 @@ TEST_F(ContentViewTest, MakingAndDroppingTheWindowNeverTouchesThePage) {
   ASSERT_TRUE(tests::eventually([&] { return *model->title == "kept"; }));
   close();
   EXPECT_EQ(gtk_widget_get_parent(GTK_WIDGET(webView())), nullptr);
-  open();
+  open(*model);
   settle();
   EXPECT_EQ(*model->title, "kept");
   EXPECT_EQ(server.requests().size(), 1u);
@@ -596,7 +586,7 @@ TEST_F(ContentViewTest, MakingAndDroppingTheWindowNeverTouchesThePage) {
 TEST_F(ContentViewTest, AnotherPageCanLoadWhileThePageHasNoWindow) {
   close();
   show("/pricing.html");
-  open();
+  open(*model);
   EXPECT_THAT(highlighted(), ElementsAre("Pricing"));
 }
 

@@ -4,6 +4,7 @@
 #include "support/RealInput.h"
 #include "support/TextChecks.h"
 #include "support/TextScale.h"
+#include "ui/client/ContentWindow.h"
 #include "ui/client/DownloadTest.h"
 
 #include <gtkmm/progressbar.h>
@@ -21,17 +22,14 @@ using ::testing::Not;
 using tests::buttonNamed;
 
 /// Downloads in the client's window.
-class DownloadsViewTest : public DownloadTest {
+class DownloadsViewTest : public DownloadTest, protected tests::ContentWindow {
  protected:
   void SetUp() override {
     DownloadTest::SetUp();
-    view = std::make_unique<ContentView>(*model);
-    window =
-        std::make_unique<tests::TestWindow>(*view, ContentView::minimumWidth, ContentView::minimumHeight);
+    open(*model);
   }
   void TearDown() override {
-    window.reset();
-    view.reset();
+    close();
     DownloadTest::TearDown();
   }
 
@@ -50,9 +48,6 @@ class DownloadsViewTest : public DownloadTest {
     return lines().get_mapped();
   }
   void letTimePass() { timer.letOff(ShownDownloads::stay); }
-
-  std::unique_ptr<ContentView> view;
-  std::unique_ptr<tests::TestWindow> window;
 };
 
 TEST_F(DownloadsViewTest, ADownloadIsSeenBelowThePageFromItsStartUntilAWhileAfterItsEnd) {

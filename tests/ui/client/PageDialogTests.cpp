@@ -2,6 +2,7 @@
 #include "client/DesktopClientSidebar.h"
 #include "support/RealInput.h"
 #include "support/TextChecks.h"
+#include "ui/client/ContentWindow.h"
 #include "ui/client/ModelTest.h"
 
 namespace quorvel {
@@ -15,7 +16,7 @@ using ::testing::SizeIs;
 using tests::buttonNamed;
 
 /// A page with dialogs, in the client's window.
-class PageDialogTest : public ModelTest {
+class PageDialogTest : public ModelTest, protected tests::ContentWindow {
  protected:
   void SetUp() override {
     // In place of the system's own dialog for it.
@@ -24,14 +25,9 @@ class PageDialogTest : public ModelTest {
       return TRUE;
     };
     g_signal_connect(webView(), "print", G_CALLBACK(onPrint), &prints);
-    view = std::make_unique<ContentView>(*model);
-    window =
-        std::make_unique<tests::TestWindow>(*view, ContentView::minimumWidth, ContentView::minimumHeight);
+    open(*model);
   }
-  void TearDown() override {
-    window.reset();
-    view.reset();
-  }
+  void TearDown() override { close(); }
 
   /// Shows a page that does this once it is there.
   void showPageThat(const std::string& does) {
@@ -56,8 +52,6 @@ class PageDialogTest : public ModelTest {
   }
 
   int prints = 0;
-  std::unique_ptr<ContentView> view;
-  std::unique_ptr<tests::TestWindow> window;
 };
 
 TEST_F(PageDialogTest, AnAlertIsShownOverThePageUntilItIsRead) {
