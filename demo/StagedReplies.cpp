@@ -15,6 +15,8 @@ namespace {
 
 constexpr auto sessionCookie = "quorvel_session=demo; Path=/; Secure; HttpOnly; SameSite=Lax; Max-Age=";
 constexpr int thirtyDays = 30 * 24 * 60 * 60;
+/// Bytes of an answer that a browser may wait for before it tells what it is.
+constexpr std::size_t sniffed = 1024;
 
 std::string parameter(GHashTable* query, const char* name, const char* otherwise) {
   const auto value = query ? static_cast<const char*>(g_hash_table_lookup(query, name)) : nullptr;
@@ -117,8 +119,10 @@ void drip(SoupServerMessage* message, GHashTable* query) {
 void offerFile(SoupServerMessage* message, GHashTable* query) {
   if (parameter(query, "seconds", "").empty())
     respond(message, SOUP_STATUS_OK, "application/octet-stream", "The brief of the day.\n");
-  else
+  else {
     drip(message, query);
+    append(message, std::string(sniffed, '\n'));
+  }
   GHashTable* parameters = soup_header_parse_param_list("");
   const auto name = parameter(query, "name", "brief.txt");
   g_hash_table_insert(parameters, g_strdup("filename"), g_strdup(name.c_str()));
