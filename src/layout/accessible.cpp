@@ -14,8 +14,9 @@ void setAccessibleDescription(Gtk::Widget& widget, const Glib::ustring& descript
                                  description.c_str(), -1);
 }
 
+// The state of being hidden would not do: newer toolkits set it back whenever the widget comes on the screen.
 void setAccessiblyHidden(Gtk::Widget& widget) {
-  gtk_accessible_update_state(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_STATE_HIDDEN, TRUE, -1);
+  widget.property_accessible_role() = Gtk::Accessible::Role::NONE;
 }
 
 void setAccessibleSelected(Gtk::Widget& widget, bool isSelected) {

@@ -8,7 +8,8 @@ namespace quorvel {
 void setAccessibleName(Gtk::Widget& widget, const Glib::ustring& name);
 /// What assistive technology may add to the name.
 void setAccessibleDescription(Gtk::Widget& widget, const Glib::ustring& description);
-/// Leaves the widget to the eye, where another one says the same to assistive technology, or it says nothing.
+/// Leaves the widget, which is in no window yet, to the eye, where another one says the same to assistive
+/// technology, or it says nothing.
 void setAccessiblyHidden(Gtk::Widget& widget);
 /// Whether assistive technology calls the widget the chosen one of its group.
 void setAccessibleSelected(Gtk::Widget& widget, bool isSelected);

@@ -82,6 +82,8 @@ TEST_F(AddressFieldTest, ToAssistiveTechnologyTheAddressIsOneLabel) {
   show("https://user@one.example/a?b#c");
   EXPECT_EQ(line().get_accessible_role(), Gtk::Accessible::Role::LABEL);
   EXPECT_TRUE(tests::hasAccessibleName(line(), "https://one.example/a?b#c"));
+  for (const auto* part : {&origin(), &rest()})
+    EXPECT_EQ(part->get_accessible_role(), Gtk::Accessible::Role::NONE) << "which no toolkit tells of";
 }
 
 TEST_F(AddressFieldTest, AnotherAddressDoesNotChangeWhatTheFieldAsksFor) {
