@@ -1,5 +1,7 @@
 #include "brand/toolkitTheme.h"
 
+#include <algorithm>
+#include <array>
 #include <gtkmm/cssprovider.h>
 #include <gtkmm/settings.h>
 #include <gtkmm/stylecontext.h>
@@ -11,10 +13,17 @@ namespace {
 /// Above the theme, which the toolkit counts among the settings, and below the rules of this project.
 constexpr int aboveTheme = GTK_STYLE_PROVIDER_PRIORITY_SETTINGS + 1;
 
-/// As the toolkit finds it. What the environment names goes first, and stays light unless it says otherwise.
+/// What the toolkit's own dark themes are called, in the form that the environment names them by.
+constexpr std::array ownDarkThemes{"Default:dark", "Default-dark", "Adwaita:dark", "Adwaita-dark",
+                                   "HighContrast:dark"};
+
+/// As the toolkit finds it. What the environment names goes first, and stays light unless it says otherwise;
+/// the desktop's is dark if it can be.
 std::string themeInUse(const Gtk::Settings& settings) {
-  const char* named = g_getenv("GTK_THEME");
-  return named && *named ? named : settings.property_gtk_theme_name().get_value().raw();
+  if (const char* named = g_getenv("GTK_THEME"); named && *named)
+    return named;
+  const auto name = settings.property_gtk_theme_name().get_value().raw();
+  return name.ends_with("-dark") ? name : name + ":dark";
 }
 
 } // namespace
@@ -29,7 +38,7 @@ void keepToolkitDark() {
     const auto theme = themeInUse(*settings);
     for (const auto& provider : {nothing, darkTheme})
       Gtk::StyleContext::remove_provider_for_display(display, provider);
-    if (theme == "Default" || theme == "Default:dark")
+    if (std::ranges::find(ownDarkThemes, theme) != ownDarkThemes.end())
       return;
     darkTheme->load_named("Default", theme.starts_with("HighContrast") ? "hc-dark" : "dark");
     Gtk::StyleContext::add_provider_for_display(display, nothing, aboveTheme);
