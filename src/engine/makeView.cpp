@@ -3,6 +3,7 @@
 #include "engine/pageGround.h"
 #include "engine/permissions.h"
 #include "engine/swipes.h"
+#include "engine/tabKey.h"
 
 #include <string>
 
@@ -18,14 +19,6 @@ GObjectPointer<WebKitSettings> makeSettings() {
   webkit_settings_set_user_agent(settings.get(), userAgent.c_str());
   webkit_settings_set_javascript_can_open_windows_automatically(settings.get(), TRUE);
   return settings;
-}
-
-/// The engine keeps a text view inside its own for input methods. As a stop of the Tab key it would never be
-/// left (WebKitGTK 2.50 and 2.52).
-void keepTabMoving(WebKitWebView* view) {
-  for (auto* child = gtk_widget_get_first_child(GTK_WIDGET(view)); child;
-       child = gtk_widget_get_next_sibling(child))
-    gtk_widget_set_focusable(child, FALSE);
 }
 
 /// The engine's own are twice as wide, and light on many a page. A page's own rules come before these.

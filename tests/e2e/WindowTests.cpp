@@ -1,5 +1,7 @@
 #include "e2e/stage/ClientTest.h"
 
+#include <ranges>
+
 namespace quorvel::e2e {
 namespace {
 
@@ -45,11 +47,12 @@ TEST_F(WindowTest, ItsSizeIsRememberedInTheStateFolderAndNotAmongThePreferences)
 
 class FocusTest : public ClientTest {
  protected:
-  /// Presses Tab once, and the focus goes where it should.
-  void tabReaches(const std::string& name) {
-    client().type("Tab");
+  /// Presses a key once, and the focus goes where it should.
+  void reaches(const std::string& key, const std::string& name) {
+    client().type(key);
     EXPECT_TRUE(eventually([&] { return client().focused(); }, Eq(name)));
   }
+  void tabReaches(const std::string& name) { reaches("Tab", name); }
   void tabReachesInPage(const std::string& field) {
     client().type("Tab");
     EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains(field)));
@@ -64,7 +67,20 @@ TEST_F(FocusTest, TabGoesThroughSidebarToolbarAndPageAndComesOutAgain) {
     tabReaches(name);
   tabReachesInPage("first");
   tabReachesInPage("second");
+  tabReaches("Main menu");
   tabReaches("+ New chat");
+}
+
+TEST_F(FocusTest, TheRoundVisitsTheSameStopsForwardsAndBackwardsTheTitleBarsIncluded) {
+  start();
+  const std::vector<std::string> forwards{
+      "Agent workspace", "Connectors", "Browser workspace", "Voice agent", "Pricing", "Support", "Reload",
+      "Open externally", "Page",       "Main menu",         "+ New chat"};
+  for (const auto& stop : forwards)
+    reaches("Tab", stop);
+  for (const auto& stop : forwards | std::views::reverse | std::views::drop(1))
+    reaches("shift+Tab", stop);
+  reaches("shift+Tab", forwards.back());
 }
 
 TEST_F(FocusTest, ARowWorksFromTheKeyboardAlone) {

@@ -28,6 +28,8 @@ MainWindow::MainWindow(DesktopBrowserModel& browser, Gtk::Application& applicati
   set_icon_name("com.quorvel.Desktop");
   auto* header = Gtk::make_managed<Gtk::HeaderBar>();
   header->add_css_class("slim");
+  // The menu says the program's name already, and the sidebar below it.
+  header->set_title_widget(*Gtk::make_managed<HStack>(0));
   header->pack_start(*Gtk::make_managed<CommandMenu>(commands.client, browser, application));
   header->pack_end(*Gtk::make_managed<PrimaryMenu>(commands.program));
   set_titlebar(*header);

@@ -1,11 +1,15 @@
 #include "engine/GObjectPointer.h"
+#include "support/RealInput.h"
 #include "support/TemporaryFolder.h"
+#include "support/TestWindow.h"
 
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <glib.h>
 #include <gtest/gtest.h>
+#include <gtkmm/box.h>
+#include <gtkmm/button.h>
 #include <webkit/webkit.h>
 
 namespace quorvel {
@@ -19,6 +23,26 @@ TEST(Workaround, TheEngineStillHasATextViewThatTabNeverLeaves) {
   GtkWidget* inner = gtk_widget_get_first_child(view.get());
   ASSERT_TRUE(inner) << "see keepTabMoving()";
   EXPECT_TRUE(gtk_widget_get_focusable(inner)) << "see keepTabMoving()";
+}
+
+TEST(Workaround, OlderEnginesMoveTheFocusOutOfThePageAndGiveTheKeyBackAsWell) {
+  auto* page = webkit_web_view_new();
+  gtk_widget_set_focusable(gtk_widget_get_first_child(page), FALSE);
+  Gtk::Button next("Next"), nextButOne("Next but one");
+  Gtk::Box content;
+  content.append(next);
+  content.append(nextButOne);
+  content.append(*Gtk::manage(Glib::wrap(page)));
+  gtk_widget_set_hexpand(page, TRUE);
+  tests::TestWindow window(content, 400, 300);
+  webkit_web_view_load_html(WEBKIT_WEB_VIEW(page), "<title>Page</title>", nullptr);
+  ASSERT_TRUE(tests::eventually([&] { return !webkit_web_view_is_loading(WEBKIT_WEB_VIEW(page)); }));
+  tests::pointAt(content);
+  tests::focusOn(*Glib::wrap(page));
+  tests::strikeKey("Tab");
+  const bool isOlder = webkit_get_minor_version() < 52;
+  EXPECT_TRUE(tests::eventually([&] { return (isOlder ? nextButOne : next).has_focus(); }))
+      << "see keepTabMoving()";
 }
 
 TEST(Workaround, TheEngineStillCrashesWhereItTakesAPictureForSwipesWithoutAWindow) {

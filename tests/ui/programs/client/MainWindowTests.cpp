@@ -160,6 +160,32 @@ TEST_F(MainWindowTest, TheContentKeepsItsLeastSizeBelowTheHeaderBar) {
   EXPECT_LE(window->get_titlebar()->get_height(), 40) << "slim";
 }
 
+/// The brightest of all pixels between two columns of a window, from 0 to 255.
+int brightest(Gtk::Window& window, int left, int right, const Gdk::Rectangle& rows) {
+  const auto picture = tests::drawingOf(window);
+  int most = 0;
+  for (int y = rows.get_y(); y < rows.get_y() + rows.get_height(); ++y)
+    for (int x = left; x < right; ++x)
+      most = std::max(most, int{picture->get_data()[y * picture->get_stride() + 4 * x]});
+  return most;
+}
+
+TEST_F(MainWindowTest, TheHeaderBarSaysTheNameOnceAndAsAMenu) {
+  EXPECT_THAT(tests::texts(*window->get_titlebar()), ElementsAre("Quorvel"));
+  auto* name = tests::labelled(menuBar(), "Quorvel");
+  // What is bright in the entry before the name and behind it.
+  const auto arrows = [&] {
+    const auto text = tests::boundsIn(*window, *name), entry = tests::boundsIn(*window, *name->get_parent());
+    const int textEnd = text.get_x() + text.get_width(), entryEnd = entry.get_x() + entry.get_width();
+    return std::pair(brightest(*window, entry.get_x(), text.get_x() - 1, entry) > 200,
+                     brightest(*window, textEnd + 4, entryEnd, entry) > 200);
+  };
+  EXPECT_EQ(arrows(), std::pair(false, true));
+  const tests::RightToLeft desktop;
+  tests::drawFrame(*window);
+  EXPECT_EQ(arrows(), std::pair(true, false));
+}
+
 class MirroredWindowTest : public MainWindowTest {
   const tests::RightToLeft desktop_;
 };

@@ -1,0 +1,62 @@
+#include "engine/tabKey.h"
+
+namespace quorvel {
+namespace {
+
+constexpr auto listenerKey = "quorvel-tab", eventKey = "quorvel-tab-event";
+
+/// The engine keeps a text view inside its own for input methods. As a stop of the Tab key it would never be
+/// left (WebKitGTK 2.50 and 2.52).
+void passByTextView(GtkWidget* view) {
+  for (auto* child = gtk_widget_get_first_child(view); child; child = gtk_widget_get_next_sibling(child))
+    gtk_widget_set_focusable(child, FALSE);
+}
+
+bool isTab(guint key) {
+  return key == GDK_KEY_Tab || key == GDK_KEY_ISO_Left_Tab || key == GDK_KEY_KP_Tab;
+}
+
+/// True for a key that has done its work and is to go no further.
+gboolean onPress(GtkEventController* keys, guint key, guint, GdkModifierType, GtkWidget* view) {
+  if (!isTab(key))
+    return FALSE;
+  auto* event = gtk_event_controller_get_current_event(keys);
+  if (event == g_object_get_data(G_OBJECT(keys), eventKey) && !gtk_widget_has_focus(view))
+    return TRUE;
+  g_object_set_data_full(G_OBJECT(keys), eventKey, gdk_event_ref(event),
+                         [](gpointer seen) { gdk_event_unref(static_cast<GdkEvent*>(seen)); });
+  return FALSE;
+}
+
+void listenTo(GtkWidget* window, GtkWidget* view) {
+  auto* keys = gtk_event_controller_key_new();
+  gtk_event_controller_set_propagation_phase(keys, GTK_PHASE_CAPTURE);
+  g_signal_connect_object(keys, "key-pressed", G_CALLBACK(onPress), view, GConnectFlags(0));
+  gtk_widget_add_controller(window, keys);
+  g_object_set_data_full(G_OBJECT(view), listenerKey, g_object_ref(keys), [](gpointer added) {
+    auto* controller = GTK_EVENT_CONTROLLER(added);
+    if (auto* widget = gtk_event_controller_get_widget(controller))
+      gtk_widget_remove_controller(widget, controller);
+    g_object_unref(controller);
+  });
+}
+
+/// Where a key leads out of the page, the engine moves the focus on and also gives the key back, which would
+/// move it once more (WebKitGTK 2.50).
+void leaveOnce(GtkWidget* view) {
+  const auto onRoot = +[](GtkWidget* moved) {
+    g_object_set_data(G_OBJECT(moved), listenerKey, nullptr);
+    if (auto* root = gtk_widget_get_root(moved))
+      listenTo(GTK_WIDGET(root), moved);
+  };
+  g_signal_connect(view, "notify::root", G_CALLBACK(onRoot), nullptr);
+}
+
+} // namespace
+
+void keepTabMoving(WebKitWebView* view) {
+  passByTextView(GTK_WIDGET(view));
+  leaveOnce(GTK_WIDGET(view));
+}
+
+} // namespace quorvel
