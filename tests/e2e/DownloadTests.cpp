@@ -14,20 +14,24 @@ class DownloadTest : public ClientTest {
     std::ofstream(stage.config() / "user-dirs.dirs") << "XDG_DOWNLOAD_DIR=\"$HOME/Downloads\"\n";
   }
 
-  void startFrom(const std::string& page) {
+  void startFrom(const std::string& page, const Arguments& through = {}) {
     stage.servePage("agent.html", page);
-    start();
+    start({}, through);
     client().clickPage();
   }
-  std::vector<std::string> files() const {
+  /// Also where the program's folder is not what it is outside.
+  std::vector<std::string> files() {
+    const auto root = fs::path("/proc") / std::to_string(client().process().id()) / "root";
     std::vector<std::string> names;
     std::error_code notYet;
-    for (const auto& entry : fs::directory_iterator(stage.folder() / "home" / "Downloads", notYet))
+    for (const auto& entry : fs::directory_iterator(root / folder.relative_path(), notYet))
       names.push_back(entry.path().filename());
     return names;
   }
   /// What is said of downloads.
   std::vector<std::string> said() { return client().namesIn("Quorvel", ATSPI_ROLE_STATUS_BAR); }
+
+  const fs::path folder = stage.folder() / "home" / "Downloads";
 };
 
 TEST_F(DownloadTest, IsHeardOfUntilAWhileAfterItsEnd) {
@@ -52,8 +56,34 @@ TEST_F(DownloadTest, LeavesNothingHalfWrittenWhenTheProgramIsQuit) {
   EXPECT_TRUE(eventually([&] { return said(); }, ElementsAre("Downloading long.bin")));
   EXPECT_TRUE(eventually([&] { return files(); }, Contains("long.bin")));
   quit();
-  EXPECT_TRUE(eventually([&] { return files(); }, IsEmpty()));
+  EXPECT_TRUE(eventually([&] { return fs::is_empty(folder); }));
 }
+
+/// A download folder that takes no file, or not the whole of one, and what is in it before.
+struct Unwritable {
+  const char* lack;
+  std::vector<std::string> files = {};
+};
+
+class UnwritableFolderTest : public DownloadTest, public testing::WithParamInterface<Unwritable> {};
+
+TEST_P(UnwritableFolderTest, IsSaidToKeepNoFileAndEverythingElseGoesOn) {
+  fs::create_directory(folder);
+  stage.servePage("large.html", std::string(1'000'000, 'x'));
+  startFrom(linkTo("/large.html", "download"), lacking(GetParam().lack, {folder}));
+  EXPECT_TRUE(eventually([&] { return said(); }, ElementsAre("large.html could not be downloaded")));
+  EXPECT_THAT(client().namesIn("Quorvel", ATSPI_ROLE_PUSH_BUTTON), Not(Contains(HasSubstr("large.html"))));
+  EXPECT_TRUE(eventually([&] { return files(); }, ElementsAreArray(GetParam().files)));
+  EXPECT_FALSE(fs::exists(stage.data() / "quorvel" / "downloads-under-way"));
+  client().press("Pricing");
+  waitForPage("/pricing.html");
+  quit();
+}
+
+INSTANTIATE_TEST_SUITE_P(Disk, UnwritableFolderTest,
+                         testing::Values(Unwritable{"read-only"}, Unwritable{"small-disk"},
+                                         Unwritable{"full-disk", {"everything"}}),
+                         [](const auto& disk) { return std::to_string(disk.index); });
 
 } // namespace
 } // namespace quorvel::e2e

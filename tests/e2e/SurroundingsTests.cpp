@@ -11,12 +11,6 @@ namespace fs = std::filesystem;
 /// Puts the program into surroundings that lack something.
 class SurroundingsTest : public ClientTest {
  protected:
-  static Arguments lacking(const std::string& what, const std::vector<fs::path>& folders = {}) {
-    Arguments command = {QUORVEL_SURROUNDINGS, what};
-    command.insert(command.end(), folders.begin(), folders.end());
-    command.emplace_back("--");
-    return command;
-  }
   /// The page is on the screen and answers to the keyboard.
   void expectWorkingPage() {
     waitForPage("/agent.html");

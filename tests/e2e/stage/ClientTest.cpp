@@ -1,7 +1,6 @@
 #include "e2e/stage/ClientTest.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iostream>
 
 namespace quorvel::e2e {
@@ -12,6 +11,13 @@ std::string linkTo(const std::string& address, const std::string& attributes) {
 
 std::string buttonFor(const std::string& script) {
   return "<button style='position:fixed;inset:0;width:100%' onclick=\"" + script + "\">Go</button>";
+}
+
+Arguments lacking(const std::string& what, const std::vector<std::filesystem::path>& folders) {
+  Arguments command = {QUORVEL_SURROUNDINGS, what};
+  command.insert(command.end(), folders.begin(), folders.end());
+  command.emplace_back("--");
+  return command;
 }
 
 Client& ClientTest::launch(const Environment& environment, const Arguments& through) {

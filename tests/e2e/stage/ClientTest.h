@@ -5,6 +5,7 @@
 #include "support/eventually.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <memory>
 
@@ -13,6 +14,7 @@ namespace quorvel::e2e {
 using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::EndsWith;
 using testing::Eq;
 using testing::Ge;
@@ -30,6 +32,10 @@ inline const std::string agentPage = "/agent.html?source=mac_app";
 std::string linkTo(const std::string& address, const std::string& attributes = "");
 /// Covers the whole page with a button that runs a script.
 std::string buttonFor(const std::string& script);
+
+/// What a program is started through so that something is lacking around it, or in these folders; the script
+/// `surroundings` tells what that may be.
+Arguments lacking(const std::string& what, const std::vector<std::filesystem::path>& folders = {});
 
 /// A fresh account in a private network, and the program in it as soon as a test starts it.
 class ClientTest : public testing::Test {
