@@ -20,16 +20,13 @@ bool hasFragment(const std::string& address) {
 } // namespace
 
 CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner)
-    : view_(view), owner_(std::move(owner)),
-      command_({std::move(startTimer), [this] { ask(); }, [this] { insist(); }}), gauge_(view_) {
+    : view_(view), owner_(std::move(owner)), command_({startTimer, [this] { ask(); }, [this] { insist(); }}),
+      network_(std::move(startTimer), [this] { return isUnderWay(); }), gauge_(view_) {
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, CommandRunner* self) { self->noteEvent(event); };
   g_signal_connect(view_, "load-changed", G_CALLBACK(onEvent), this);
   const auto onFailure = +[](WebKitWebView*, WebKitLoadEvent, const char*, const GError* error,
-                             CommandRunner* self) -> gboolean {
-    self->noteFailure(error);
-    return FALSE;
-  };
+                             CommandRunner* self) -> gboolean { return self->noteFailure(error); };
   g_signal_connect(view_, "load-failed", G_CALLBACK(onFailure), this);
   const auto onEnd = +[](CommandRunner* self) { self->command_.processEnded(); };
   g_signal_connect_swapped(view_, "web-process-terminated", G_CALLBACK(onEnd), this);
@@ -131,8 +128,10 @@ void CommandRunner::carryOut(Wish wish) {
   staysInDocument_ = wish_.type != WEBKIT_NAVIGATION_TYPE_RELOAD && hasFragment(expected_) &&
                      withoutFragment(expected_) == withoutFragment(onScreen);
   // Where there is no page, and none on its way, none can be in the way.
-  if (!onScreen.empty() || wasLoading)
-    command_.begin();
+  if (onScreen.empty() && !wasLoading)
+    return;
+  command_.begin();
+  network_.restart();
 }
 
 bool CommandRunner::claims(WebKitNavigationAction* action) {
@@ -186,13 +185,15 @@ bool CommandRunner::hasArrived() const {
   return isRedirected_ || expected_.empty() || addressOf(view_) == expected_;
 }
 
-void CommandRunner::noteFailure(const GError* error) {
+bool CommandRunner::noteFailure(const GError* error) {
   const bool isBrokenOff = g_error_matches(error, WEBKIT_NETWORK_ERROR, WEBKIT_NETWORK_ERROR_CANCELLED);
+  const bool isLost = NetworkWatch::hasLost(error) && command_.isUnderWay();
   // The page's menu has a way to stop it.
-  if (isBrokenOff && !owner_.isInPage())
+  if (isLost || (isBrokenOff && !owner_.isInPage()))
     command_.loadBrokenOff();
   else
     command_.loadFailed();
+  return isLost;
 }
 
 } // namespace quorvel

@@ -2,6 +2,7 @@
 
 #include "engine/FloodGauge.h"
 #include "engine/GObjectPointer.h"
+#include "engine/NetworkWatch.h"
 #include "engine/OwnersCommand.h"
 
 #include <functional>
@@ -61,7 +62,8 @@ class CommandRunner : public sigc::trackable {
   void startAfresh();
   void noteEvent(WebKitLoadEvent event);
   bool hasArrived() const;
-  void noteFailure(const GError* error);
+  /// Whether the engine need not show that it failed.
+  bool noteFailure(const GError* error);
 
   void tellToLoad();
 
@@ -75,6 +77,7 @@ class CommandRunner : public sigc::trackable {
   bool isOverruled_ = false;                         // the page, without another question
   GObjectPointer<WebKitBackForwardListItem> target_; // in the history
   OwnersCommand command_;
+  NetworkWatch network_;
   FloodGauge gauge_;
   GObjectPointer<GCancellable> question_{g_cancellable_new()};
 };

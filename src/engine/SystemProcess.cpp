@@ -51,6 +51,10 @@ bool SystemProcess::exists() const {
   return !status_.empty() && !value("State").starts_with('Z');
 }
 
+bool SystemProcess::isStopped() const {
+  return value("State").starts_with('T');
+}
+
 std::ptrdiff_t SystemProcess::processNamespaces() const {
   std::istringstream numbers(value("NSpid"));
   return std::distance(std::istream_iterator<pid_t>(numbers), {});

@@ -19,6 +19,8 @@ class SystemProcess {
   pid_t id() const { return id_; }
   /// False if it had ended.
   bool exists() const;
+  /// Whether somebody has stopped it, to go on later or never.
+  bool isStopped() const;
   /// Whether it can make only such system calls as a filter lets through.
   bool isFiltered() const { return value("Seccomp") == "2"; }
   /// In how many nested namespaces of processes it has a number.

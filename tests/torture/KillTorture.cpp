@@ -1,8 +1,6 @@
 #include "e2e/stage/ClientTest.h"
 #include "torture/torture.h"
 
-#include <csignal>
-
 namespace quorvel::e2e {
 namespace {
 
@@ -20,8 +18,7 @@ class KillTorture : public ClientTest {
     for (int i = 0; i < kills; ++i) {
       client().type("ctrl+r");
       g_usleep(static_cast<unsigned>(i) * 17'000 % 300'000); // no waiting for anything: see above
-      for (const auto each : descendants(client().process().id(), process))
-        ::kill(each, SIGKILL);
+      killDescendants(client().process().id(), process);
       EXPECT_TRUE(eventually([&] { return !client().spins(); })) << "kill " << i;
       const auto before = timesShown();
       client().type("ctrl+r");

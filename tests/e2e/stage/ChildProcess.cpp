@@ -2,6 +2,7 @@
 
 #include "support/TemporaryFolder.h"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -136,6 +137,14 @@ std::vector<pid_t> descendants(pid_t ancestor, const std::string& name) {
       found.push_back(id);
   }
   return found;
+}
+
+void killDescendants(pid_t ancestor, const std::string& name) {
+  const auto killed = descendants(ancestor, name);
+  for (const auto each : killed)
+    ::kill(each, SIGKILL);
+  const auto isThere = [](pid_t id) { return std::filesystem::exists("/proc/" + std::to_string(id)); };
+  EXPECT_TRUE(eventually([&] { return std::ranges::none_of(killed, isThere); })) << name << " does not end";
 }
 
 std::vector<std::string> lacksOfSandbox(pid_t process, pid_t program) {

@@ -41,6 +41,10 @@ class ChildProcess {
 /// The running processes below `ancestor` whose name, as far as the system keeps it (15 letters), is `name`.
 std::vector<pid_t> descendants(pid_t ancestor, const std::string& name);
 
+/// Kills the processes below `ancestor` of this name, and waits until they are gone: until then whoever talks
+/// to one may not have heard of its end, and ask it for something.
+void killDescendants(pid_t ancestor, const std::string& name);
+
 /// What a process that `program` started lacks of a sandbox of its own: "a user namespace" and so on. Empty
 /// where it lacks nothing, or has ended.
 std::vector<std::string> lacksOfSandbox(pid_t process, pid_t program);

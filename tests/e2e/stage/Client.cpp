@@ -6,7 +6,6 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -203,10 +202,7 @@ Size Client::minimumSize() const {
 }
 
 void Client::killWebProcess() const {
-  const auto renderers = [this] { return descendants(process_.id(), "WebKitWebProces"); };
-  for (const auto renderer : renderers())
-    ::kill(renderer, SIGKILL);
-  EXPECT_TRUE(eventually(renderers, testing::IsEmpty()));
+  killDescendants(process_.id(), "WebKitWebProces");
 }
 
 std::string Client::said() const {

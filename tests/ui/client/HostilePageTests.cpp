@@ -1,8 +1,10 @@
+#include "engine/NetworkWatch.h"
 #include "engine/OwnersCommand.h"
 #include "engine/SystemProcess.h"
 #include "ui/client/ModelTest.h"
 
 #include <csignal>
+#include <optional>
 
 namespace quorvel {
 namespace {
@@ -35,12 +37,12 @@ class HostilePageTest : public ModelTest {
     ASSERT_TRUE(tests::eventually([&] { return server.count("/armed") > before; }));
     ASSERT_TRUE(tests::eventually([&] { return *model->title == "Hostile"; }));
   }
+  bool isAt(const std::string& path, const std::string& title) const {
+    return *model->title == title && *model->currentURLString == server.address(path);
+  }
   void expectArrival(const std::string& path, const std::string& title) {
-    EXPECT_TRUE(tests::eventually([&] {
-      spendTime();
-      return *model->title == title && *model->currentURLString == server.address(path);
-    })) << *model->currentURLString
-        << ", " << *model->title;
+    EXPECT_TRUE(tests::eventually([&] { return spendTime(), isAt(path, title); }))
+        << *model->currentURLString << ", " << *model->title;
   }
 };
 
@@ -78,26 +80,70 @@ TEST_F(HostilePageTest, BackLeadsOutOfAHangingPageAndForwardToItAgain) {
   expectArrival("/hostile.html", "Recovered");
 }
 
-/// Stops every process of a page as long as it exists. One that stayed stopped would outlive the test.
+/// Stops every process of the engine that runs a program of this name, as long as it exists. One that stayed
+/// stopped would outlive the test.
 class StoppedProcesses {
  public:
-  StoppedProcesses() { signal(SIGSTOP); }
+  explicit StoppedProcesses(const char* name) : stopped_(SystemProcess::ourselves().descendants(name)) {
+    signal(SIGSTOP);
+  }
   ~StoppedProcesses() { signal(SIGCONT); }
 
- private:
   void signal(int number) const {
-    for (const auto& page : pages_)
-      ::kill(page.id(), number);
+    for (const auto& each : stopped_)
+      ::kill(each.id(), number);
   }
 
-  const std::vector<SystemProcess> pages_ = SystemProcess::ourselves().descendants("WebKitWebProcess");
+ private:
+  const std::vector<SystemProcess> stopped_;
 };
 
 TEST_F(HostilePageTest, AStoppedProcessMakesWayToo) {
   show("/agent.html");
-  const StoppedProcesses stopped;
+  const StoppedProcesses stopped("WebKitWebProcess");
   model->load(server.address("/pricing.html"));
   expectArrival("/pricing.html", "Pricing");
+}
+
+/// The process that asks the network for the page's has been stopped.
+class StoppedNetworkTest : public HostilePageTest {
+ protected:
+  void SetUp() override {
+    show("/agent.html");
+    show("/pricing.html");
+    server.page("/pricing.html", "<title>Recovered</title>");
+    stopped.emplace("WebKitNetworkProcess");
+  }
+  /// Ends it while it has something to do.
+  void end() {
+    settle();
+    stopped->signal(SIGKILL);
+  }
+  /// No timer of ours is needed for that.
+  void expectArrival(const std::string& path, const std::string& title) const {
+    EXPECT_TRUE(tests::eventually([&] { return isAt(path, title); })) << *model->title;
+  }
+
+  std::optional<StoppedProcesses> stopped;
+};
+
+TEST_F(StoppedNetworkTest, AReloadThatItsEndInterruptsIsDoneByTheNext) {
+  model->reload();
+  end();
+  expectArrival("/pricing.html", "Recovered");
+}
+
+TEST_F(StoppedNetworkTest, ADestinationThatItsEndInterruptsIsReachedByTheNext) {
+  model->load(server.address("/agent.html"));
+  end();
+  expectArrival("/agent.html", "Agent");
+}
+
+TEST_F(StoppedNetworkTest, MakesWayForADestination) {
+  model->load(server.address("/agent.html"));
+  settle();
+  timer.letOff(NetworkWatch::patience);
+  expectArrival("/agent.html", "Agent");
 }
 
 TEST_F(HostilePageTest, APageThatMerelyComputesIsLeftAlone) {
