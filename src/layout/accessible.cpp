@@ -4,7 +4,10 @@
 
 namespace quorvel {
 
+// Newer toolkits tell of no name where a widget is nothing in particular.
 void setAccessibleName(Gtk::Widget& widget, const Glib::ustring& name) {
+  if (widget.get_accessible_role() == Gtk::Accessible::Role::GENERIC)
+    widget.property_accessible_role() = Gtk::Accessible::Role::GROUP;
   gtk_accessible_update_property(GTK_ACCESSIBLE(widget.gobj()), GTK_ACCESSIBLE_PROPERTY_LABEL, name.c_str(),
                                  -1);
 }

@@ -4,7 +4,7 @@
 
 namespace quorvel {
 
-/// The name that assistive technology reads for a widget.
+/// The name that assistive technology reads for a widget. The first time, the widget is in no window yet.
 void setAccessibleName(Gtk::Widget& widget, const Glib::ustring& name);
 /// What assistive technology may add to the name.
 void setAccessibleDescription(Gtk::Widget& widget, const Glib::ustring& description);
