@@ -109,7 +109,7 @@ void DownloadRow::show(const Download& download) {
   showInFolder_->set_visible(download.state == Download::State::done);
   if (hasFocus && !isUnderWay)
     showInFolder_->grab_focus();
-  setAccessibleName(*this, sentence(download));
+  setAccessibleName(*name_, sentence(download));
   setAccessibleName(*progress_, "Progress of " + download.name);
   setAccessibleName(*cancel_, "Cancel " + download.name);
   setAccessibleName(*showInFolder_, "Show in folder: " + download.name);

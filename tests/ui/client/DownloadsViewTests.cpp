@@ -170,19 +170,20 @@ TEST_F(DownloadsViewTest, TheFocusIsNeverLostWithALine) {
 
 TEST_F(DownloadsViewTest, EachStateIsHeardWithItsName) {
   Download download{.id = "1", .name = "a.bin", .received = 1, .expected = 4};
-  const auto row = [&]() -> Gtk::Widget& { return *tests::labelled(lines(), "a.bin")->get_parent(); };
+  const auto words = [&]() -> Gtk::Widget& { return *tests::labelled(lines(), "a.bin"); };
   model->downloads.show(download);
   ASSERT_TRUE(isAnyLineThere());
-  EXPECT_EQ(row().get_accessible_role(), Gtk::Accessible::Role::STATUS) << "which is spoken of in its turn";
-  EXPECT_TRUE(tests::hasAccessibleName(row(), "Downloading a.bin"));
+  EXPECT_EQ(words().get_parent()->get_accessible_role(), Gtk::Accessible::Role::STATUS)
+      << "which is spoken of in its turn";
+  EXPECT_TRUE(tests::hasAccessibleName(words(), "Downloading a.bin"));
   EXPECT_TRUE(tests::hasAccessibleName(button("Cancel"), "Cancel a.bin"));
   EXPECT_TRUE(tests::hasAccessibleName(*tests::all<Gtk::ProgressBar>(lines()).front(), "Progress of a.bin"));
-  for (const auto& [state, words] : {std::pair{Download::State::failed, "a.bin could not be downloaded"},
-                                     {Download::State::done, "a.bin is downloaded"}}) {
+  for (const auto& [state, sentence] : {std::pair{Download::State::failed, "a.bin could not be downloaded"},
+                                        {Download::State::done, "a.bin is downloaded"}}) {
     download.state = state;
     model->downloads.show(download);
     tests::drawFrame(*view);
-    EXPECT_TRUE(tests::hasAccessibleName(row(), words));
+    EXPECT_TRUE(tests::hasAccessibleName(words(), sentence));
   }
   EXPECT_TRUE(tests::hasAccessibleName(button("Show in folder"), "Show in folder: a.bin"));
 }
