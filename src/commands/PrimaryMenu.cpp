@@ -1,5 +1,6 @@
 #include "commands/PrimaryMenu.h"
 
+#include "commands/nameEntries.h"
 #include "layout/accessible.h"
 
 namespace quorvel {
@@ -10,6 +11,7 @@ PrimaryMenu::PrimaryMenu(const CommandGroup& commands) {
   set_menu_model(commands.menu());
   set_tooltip_text("Main menu");
   setAccessibleName(*this, "Main menu");
+  nameEntries(*this);
 }
 
 } // namespace quorvel

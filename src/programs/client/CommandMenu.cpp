@@ -1,6 +1,7 @@
 #include "programs/client/CommandMenu.h"
 
 #include "client/DesktopBrowserModel.h"
+#include "commands/nameEntries.h"
 #include "layout/accessible.h"
 #include "observation/observe.h"
 
@@ -19,6 +20,7 @@ CommandMenu::CommandMenu(const CommandGroup& commands, DesktopBrowserModel& brow
                          Gtk::Application& application)
     : Gtk::PopoverMenuBar(menuBar(commands)), commands_(commands), application_(application) {
   setAccessibleName(*this, "Commands");
+  nameEntries(*this);
   observe(browser, *this, &CommandMenu::refresh);
 }
 
