@@ -24,6 +24,7 @@ constexpr Explanation explanations[] = {
     {"Failed to fully launch dbus-proxy", cannotStart, needs},
     {"Failed to read pid from child process", endedAtOnce, suspect},
     {"readPIDFromPeer", endedAtOnce, suspect},
+    {"Connection: failed to receive credentials", endedAtOnce, suspect}, // WebKitGTK 2.52
     {"", "a fatal error occurred", ""},
 };
 
