@@ -17,10 +17,21 @@ bool isNamedAfterItsClass(const std::string& name) {
   return name.starts_with("gtkmm__") || name.starts_with("Gtk") || name.starts_with("WebKitWeb");
 }
 
+/// Everything but what is in the page, which is its author's and the engine's.
+void collectOurs(const Accessible& object, std::vector<Accessible>& ours) {
+  ours.push_back(object);
+  if (object.name() == "Page")
+    return;
+  for (const auto& child : object.children())
+    collectOurs(child, ours);
+}
+
 /// What somebody who hears the window would stumble over.
 std::vector<std::string> flaws(const Accessible& root) {
   std::vector<std::string> found;
-  for (const auto& object : root.all()) {
+  std::vector<Accessible> ours;
+  collectOurs(root, ours);
+  for (const auto& object : ours) {
     const auto name = object.name();
     if (isNamedAfterItsClass(name))
       found.push_back(name + " is announced");
@@ -54,12 +65,16 @@ class ConsoleAccessibilityTest : public ClientTest, public testing::WithParamInt
   ConsoleAccessibilityTest() {
     EXPECT_TRUE(eventually([&] { return find(GetParam(), ATSPI_ROLE_PUSH_BUTTON).has_value(); }));
     EXPECT_TRUE(find(GetParam(), ATSPI_ROLE_PUSH_BUTTON)->activate());
-    EXPECT_TRUE(eventually([&] { return find(GetParam(), ATSPI_ROLE_PANEL).has_value(); }));
+    EXPECT_TRUE(eventually([&] { return isGroup(GetParam()); }));
   }
   std::optional<Accessible> application() const { return Accessible::ofProcess(console_.id()); }
   std::vector<Accessible> objects() const {
     const auto found = application();
     return found ? found->all() : std::vector<Accessible>();
+  }
+  /// Newer toolkits have a role of its own for it.
+  bool isGroup(const std::string& name) const {
+    return find(name, ATSPI_ROLE_PANEL) || find(name, ATSPI_ROLE_GROUPING);
   }
   std::optional<Accessible> find(const std::string& name, AtspiRole role) const {
     const auto all = objects();

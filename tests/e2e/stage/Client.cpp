@@ -56,6 +56,7 @@ std::optional<Accessible> Client::window(const std::string& title) const {
 
 void Client::lookAround() const {
   const auto main = window();
+  buttons_.clear();
   for (const auto& object : main ? main->all() : std::vector<Accessible>()) {
     const auto name = object.name();
     if (object.role() == ATSPI_ROLE_LABEL) {
