@@ -13,11 +13,11 @@ namespace {
 
 constexpr auto licence = "All rights reserved; the libraries it is built on keep their own licences.";
 
-Gtk::Button* copyButton(const std::string& text) {
+Gtk::Button& copyingButton(const std::string& text) {
   auto* copy = button("Copy", ButtonStyle::bordered, {});
   copy->signal_clicked().connect([copy, text] { copy->get_clipboard()->set_text(text); });
   setAccessibleDescription(*copy, "Copies everything that is said here, for a report");
-  return copy;
+  return *copy;
 }
 
 Gtk::Label* selectable(const std::string& content) {
@@ -41,21 +41,23 @@ std::string About::text() const {
   return all + licence;
 }
 
-AboutView::AboutView(const About& about) : VStack(18, HorizontalAlignment::centre) {
+AboutView::AboutView(const About& about)
+    : VStack(18, HorizontalAlignment::centre), copy_(copyingButton(about.text())) {
   auto* heading =
       vstack(2,
              {text(about.name, {TextStyle::title2, FontWeight::bold}),
               text(about.summary, {TextStyle::caption, FontWeight::semibold, TextColor::secondaryInk})},
              HorizontalAlignment::centre);
-  auto* actions = hstack(10, {copyButton(about.text())});
+  auto* actions = hstack(10, {&copy_});
   if (about.showWebsite)
     actions->add({button("Website", ButtonStyle::bordered, about.showWebsite)});
   padded(24, this)->add({Gtk::make_managed<BrandMark>(64), heading, selectable(about.text()), actions});
 }
 
 std::unique_ptr<SecondaryWindow> makeAboutWindow(const About& about) {
-  auto window =
-      std::make_unique<SecondaryWindow>("About " + about.name, *Gtk::make_managed<AboutView>(about));
+  auto* view = Gtk::make_managed<AboutView>(about);
+  auto window = std::make_unique<SecondaryWindow>("About " + about.name, *view);
+  window->set_focus(view->copyButton()); // the text would be selected as a whole
   window->set_icon_name(about.icon);
   return window;
 }

@@ -4,6 +4,7 @@
 #include "layout/stacks.h"
 
 #include <functional>
+#include <gtkmm/button.h>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,6 +29,11 @@ std::string toolkitVersion();
 class AboutView : public VStack {
  public:
   explicit AboutView(const About& about);
+
+  Gtk::Button& copyButton() { return copy_; }
+
+ private:
+  Gtk::Button& copy_;
 };
 
 /// A window with that, named after the program.

@@ -3,6 +3,9 @@
 #include "layout/Container.h"
 #include "support/TestWindow.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace quorvel::tests {
 namespace {
 
@@ -13,9 +16,7 @@ bool isInside(const Gdk::Rectangle& inner, const Gtk::Widget& outer) {
 
 bool isCut(Gtk::Widget& screen, Gtk::Label& label) {
   int needed, ignored;
-  const int width = label.get_width() + label.get_margin_start() + label.get_margin_end();
-  label.measure(Gtk::Orientation::VERTICAL, width, needed, ignored, ignored, ignored);
-  needed -= label.get_margin_top() + label.get_margin_bottom();
+  label.get_layout()->get_pixel_size(ignored, needed);
   const bool isShortened = label.get_layout()->is_ellipsized() && !label.get_single_line_mode();
   if (isShortened || label.get_height() < needed)
     return true;
@@ -87,6 +88,13 @@ std::vector<std::string> overlappingParts(Gtk::Widget& screen) {
     }
   }
   return result;
+}
+
+std::vector<std::string> textFaults(Gtk::Widget& screen) {
+  auto faults = cutTexts(screen);
+  std::ranges::copy(overlappingTexts(screen), std::back_inserter(faults));
+  std::ranges::copy(overlappingParts(screen), std::back_inserter(faults));
+  return faults;
 }
 
 } // namespace quorvel::tests

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <gtkmm/widget.h>
 #include <string>
 #include <vector>
@@ -16,5 +17,11 @@ std::vector<std::string> overlappingTexts(Gtk::Widget& screen);
 /// Each pair of neighbours of which one lies over the other, and whatever sticks out of the panel or column
 /// around it, by the texts in them.
 std::vector<std::string> overlappingParts(Gtk::Widget& screen);
+
+/// What any of these finds.
+std::vector<std::string> textFaults(Gtk::Widget& screen);
+
+/// The text sizes that a desktop offers, as factors of the usual one.
+inline constexpr std::array textFactors{1.0, 1.25, 1.5, 1.75, 2.0};
 
 } // namespace quorvel::tests

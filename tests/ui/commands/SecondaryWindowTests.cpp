@@ -1,9 +1,13 @@
 #include "commands/SecondaryWindow.h"
 
+#include "commands/AboutView.h"
+#include "commands/ShortcutsView.h"
 #include "preferences/Preferences.h"
 #include "settings/SettingsView.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestWindow.h"
+#include "support/TextChecks.h"
+#include "support/TextScale.h"
 
 namespace quorvel {
 namespace {
@@ -24,6 +28,52 @@ TEST(SecondaryWindowTest, ItIsAsLargeAsItsContentAndCannotBeResized) {
   EXPECT_FALSE(window.get_resizable());
   EXPECT_EQ(view->get_width(), 520);
   EXPECT_EQ(view->get_height(), natural);
+}
+
+/// Looks at what a window shows in every size of text.
+void expectNothingIsCut(const std::function<std::unique_ptr<SecondaryWindow>()>& make) {
+  for (const double factor : textFactors) {
+    SCOPED_TRACE(factor);
+    const TextScale large(factor);
+    const auto window = make();
+    window->present();
+    ASSERT_TRUE(eventually([&] { return window->get_mapped(); }));
+    drawFrame(*window);
+    EXPECT_THAT(textFaults(*window->get_child()), ::testing::IsEmpty());
+  }
+}
+
+TEST(SecondaryWindowTest, InLargeTextNothingOfTheShortcutsIsCut) {
+  const CommandGroup commands{
+      .title = "Quorvel",
+      .sections = {
+          {{.action = "n", .title = "_Open Agent Workspace", .key = "<Control>n", .perform = {}},
+           {.action = "o", .title = "Open in _Browser", .key = "<Control><Shift>o", .perform = {}}}}};
+  expectNothingIsCut([&] { return makeShortcutsWindow({{"Quorvel", commands}}); });
+}
+
+TEST(SecondaryWindowTest, InLargeTextNothingOfWhatAProgramTellsAboutItselfIsCut) {
+  const About about{.name = "Quorvel",
+                    .version = "1.2.3",
+                    .summary = "Desktop agent client",
+                    .icon = "com.quorvel.Desktop",
+                    .details = {"The service: https://app.quorvel.example",
+                                "Data: /home/somebody-with-a-long-name/.local/share/quorvel/website-data"},
+                    .showWebsite = [] {}};
+  expectNothingIsCut([&] { return makeAboutWindow(about); });
+}
+
+TEST(SecondaryWindowTest, WhatAProgramTellsAboutItselfIsNotSelectedBeforeAnybodySelectsIt) {
+  const auto window =
+      makeAboutWindow({.name = "Quorvel", .version = "1.2.3", .summary = "", .icon = "", .details = {}});
+  window->present();
+  ASSERT_TRUE(eventually([&] { return window->get_mapped(); }));
+  drawFrame(*window);
+  for (auto* label : all<Gtk::Label>(*window)) {
+    int begin, end;
+    EXPECT_FALSE(label->get_selection_bounds(begin, end)) << label->get_text();
+  }
+  EXPECT_EQ(window->get_focus(), buttonNamed(*window, "Copy"));
 }
 
 } // namespace
