@@ -57,7 +57,7 @@ AboutView::AboutView(const About& about)
 std::unique_ptr<SecondaryWindow> makeAboutWindow(const About& about) {
   auto* view = Gtk::make_managed<AboutView>(about);
   auto window = std::make_unique<SecondaryWindow>("About " + about.name, *view);
-  window->set_focus(view->copyButton()); // the text would be selected as a whole
+  window->startAt(view->firstStop());
   window->set_icon_name(about.icon);
   return window;
 }

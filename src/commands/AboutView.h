@@ -30,7 +30,8 @@ class AboutView : public VStack {
  public:
   explicit AboutView(const About& about);
 
-  Gtk::Button& copyButton() { return copy_; }
+  /// Where the focus begins: on the text it would select all of that.
+  Gtk::Widget& firstStop() { return copy_; }
 
  private:
   Gtk::Button& copy_;

@@ -16,6 +16,11 @@ SecondaryWindow::SecondaryWindow(const Glib::ustring& title, Gtk::Widget& conten
   add_controller(keys);
 }
 
+/// A window that is given a focus before it is on screen is never announced (GTK 4.8).
+void SecondaryWindow::startAt(Gtk::Widget& first) {
+  signal_map().connect(sigc::hide_return(sigc::mem_fun(first, &Gtk::Widget::grab_focus)));
+}
+
 void showBeside(Gtk::Window& main, std::unique_ptr<Gtk::Window>& window, const MakeWindow& make) {
   if (!window) {
     window = make();

@@ -12,6 +12,9 @@ class SecondaryWindow : public Gtk::Window {
  public:
   /// Takes over the content, a managed widget.
   SecondaryWindow(const Glib::ustring& title, Gtk::Widget& content);
+
+  /// Has the focus be on this part of the content whenever the window appears.
+  void startAt(Gtk::Widget& first);
 };
 
 using MakeWindow = std::function<std::unique_ptr<Gtk::Window>()>;

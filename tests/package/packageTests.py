@@ -75,15 +75,6 @@ class TestThePackage(unittest.TestCase):
         for command in PROGRAMS:
             self.assertIn(version, output_of(content / "usr/bin" / command, "--version"))
 
-    def test_the_catalogues_pictures_are_there_and_as_large_as_is_said(self):
-        image = re.compile(r'<image type="source" width="(\d+)" height="(\d+)">https://[^<]*/desktop/([^<]*)</image>')
-        for description in content.glob("usr/share/metainfo/*"):
-            pictures = image.findall(description.read_text())
-            self.assertTrue(pictures, description)
-            for width, height, name in pictures:
-                size = output_of("identify", "-format", "%w %h", PROJECT / "docs/screenshots" / name)
-                self.assertEqual(size, f"{width} {height}", name)
-
     def test_the_manual_says_every_option_that_the_program_says(self):
         for command in PROGRAMS:
             options = re.findall(r"--[a-z-]+", output_of(content / "usr/bin" / command, "--help"))

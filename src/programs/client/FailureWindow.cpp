@@ -23,7 +23,7 @@ FailureWindow::FailureWindow(const Glib::ustring& sentence)
   set_icon_name(QuorvelApp::identifier);
   auto* closeButton = button("Close", ButtonStyle::prominent, [this] { close(); });
   dynamic_cast<VStack*>(get_child())->add({closeButton});
-  closeButton->grab_focus();
+  startAt(*closeButton);
 }
 
 } // namespace quorvel
