@@ -17,6 +17,17 @@ bool hasFragment(const std::string& address) {
   return address.find('#') != std::string::npos;
 }
 
+/// Such a load ends as if it had been interrupted: nothing of it is shown, or it becomes a download.
+bool endsWithoutPage(WebKitResponsePolicyDecision* response) {
+  auto* answer = webkit_response_policy_decision_get_response(response);
+  const auto status = webkit_uri_response_get_status_code(answer);
+  auto* headers = webkit_uri_response_get_http_headers(answer);
+  const char* disposition = headers ? soup_message_headers_get_one(headers, "Content-Disposition") : nullptr;
+  return status == SOUP_STATUS_NO_CONTENT || status == SOUP_STATUS_RESET_CONTENT ||
+         (disposition && g_ascii_strncasecmp(disposition, "attachment", 10) == 0) ||
+         !webkit_response_policy_decision_is_mime_type_supported(response);
+}
+
 } // namespace
 
 CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner)
@@ -173,9 +184,16 @@ void CommandRunner::startAfresh() {
   wish_.carryOut();
 }
 
+void CommandRunner::noteResponse(WebKitResponsePolicyDecision* response) {
+  if (webkit_response_policy_decision_is_main_frame_main_resource(response))
+    isPageless_ = endsWithoutPage(response);
+}
+
 void CommandRunner::noteEvent(WebKitLoadEvent event) {
-  if (event == WEBKIT_LOAD_STARTED)
+  if (event == WEBKIT_LOAD_STARTED) {
+    isPageless_ = false;
     command_.loadStarted();
+  }
   // It may also be a load of the page's that was let go before.
   if (event == WEBKIT_LOAD_COMMITTED && hasArrived())
     command_.loadCommitted();
@@ -185,11 +203,17 @@ bool CommandRunner::hasArrived() const {
   return isRedirected_ || expected_.empty() || addressOf(view_) == expected_;
 }
 
+/// By the page on screen, which stops it or goes somewhere else.
+bool CommandRunner::isBrokenOff(const GError* error) const {
+  return g_error_matches(error, WEBKIT_NETWORK_ERROR, WEBKIT_NETWORK_ERROR_CANCELLED) ||
+         (!isPageless_ && g_error_matches(error, WEBKIT_POLICY_ERROR,
+                                          WEBKIT_POLICY_ERROR_FRAME_LOAD_INTERRUPTED_BY_POLICY_CHANGE));
+}
+
 bool CommandRunner::noteFailure(const GError* error) {
-  const bool isBrokenOff = g_error_matches(error, WEBKIT_NETWORK_ERROR, WEBKIT_NETWORK_ERROR_CANCELLED);
   const bool isLost = NetworkWatch::hasLost(error) && command_.isUnderWay();
   // The page's menu has a way to stop it.
-  if (isLost || (isBrokenOff && !owner_.isInPage()))
+  if (isLost || (isBrokenOff(error) && !owner_.isInPage()))
     command_.loadBrokenOff();
   else
     command_.loadFailed();

@@ -40,6 +40,8 @@ class CommandRunner : public sigc::trackable {
   bool isUnderWay() const { return command_.isUnderWay(); }
   /// Whether a navigation that the view asks about is the one that the owner asked for, or follows from it.
   bool claims(WebKitNavigationAction* action);
+  /// What the view is asked about an answer to one of its loads.
+  void noteResponse(WebKitResponsePolicyDecision* response);
   /// What was asked for is not waited for any longer.
   void giveUp() { command_.end(); }
 
@@ -62,6 +64,7 @@ class CommandRunner : public sigc::trackable {
   void startAfresh();
   void noteEvent(WebKitLoadEvent event);
   bool hasArrived() const;
+  bool isBrokenOff(const GError* error) const;
   /// Whether the engine need not show that it failed.
   bool noteFailure(const GError* error);
 
@@ -74,6 +77,7 @@ class CommandRunner : public sigc::trackable {
   std::string expected_; // the address that the wish leads to, as the engine writes it; empty if not known
   bool staysInDocument_ = false;
   bool isRedirected_ = false;
+  bool isPageless_ = false;                          // what was answered
   bool isOverruled_ = false;                         // the page, without another question
   GObjectPointer<WebKitBackForwardListItem> target_; // in the history
   OwnersCommand command_;

@@ -166,8 +166,10 @@ bool WebView::Engine::isInTheWay(WebKitNavigationAction* action) {
 }
 
 bool WebView::Engine::decide(WebKitPolicyDecision* decision, WebKitPolicyDecisionType type) {
-  if (type == WEBKIT_POLICY_DECISION_TYPE_RESPONSE)
+  if (type == WEBKIT_POLICY_DECISION_TYPE_RESPONSE) {
+    commands_.noteResponse(WEBKIT_RESPONSE_POLICY_DECISION(decision));
     return false;
+  }
   auto* action =
       webkit_navigation_policy_decision_get_navigation_action(WEBKIT_NAVIGATION_POLICY_DECISION(decision));
   const auto asked = request(action, type == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION);

@@ -89,5 +89,22 @@ TEST_F(DownloadTest, WhereTheDesktopNamesNoFolderThereIsOneInTheHomeFolder) {
   EXPECT_EQ(downloadFolder(), own);
 }
 
+TEST_F(DownloadTest, ADestinationThatIsADownloadOrNothingIsAskedForOnceAndLeavesThePage) {
+  server.answer("/nothing", [](SoupServerMessage* message) {
+    soup_server_message_set_status(message, SOUP_STATUS_NO_CONTENT, nullptr);
+  });
+  show("/agent.html");
+  runScript("document.title = 'kept'");
+  ASSERT_TRUE(tests::eventually([&] { return *model->title == "kept"; }));
+  for (const char* path : {"/report.pdf", "/nothing"}) {
+    model->load(server.address(path));
+    ASSERT_TRUE(tests::eventually([&] { return server.count(path) == 1; }));
+    ASSERT_TRUE(tests::eventually([&] { return spendTime(), !*model->isLoading; }));
+    settle();
+    EXPECT_EQ(server.count(path), 1) << path;
+    EXPECT_EQ(*model->title, "kept") << path;
+  }
+}
+
 } // namespace
 } // namespace quorvel
