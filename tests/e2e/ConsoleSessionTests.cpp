@@ -3,7 +3,6 @@
 #include "e2e/stage/Stage.h"
 #include "support/eventually.h"
 
-#include <algorithm>
 #include <fstream>
 
 namespace quorvel::e2e {
