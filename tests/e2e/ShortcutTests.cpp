@@ -35,6 +35,7 @@ TEST_F(ShortcutTest, ControlNOpensTheAgentWorkspace) {
 
 TEST_F(ShortcutTest, TheToolkitsOwnDeveloperWindowStaysShut) {
   start();
+  ASSERT_TRUE(eventually([&] { return client().windowWithKeys(); }, Eq("Quorvel")));
   for (const auto* keys : {"ctrl+shift+i", "ctrl+shift+d", "ctrl+comma"})
     client().type(keys); // it would take the focus, and the last of the keys
   EXPECT_TRUE(eventually([&] { return client().windowWithKeys(); }, Eq("Settings")));
