@@ -3,7 +3,7 @@
 namespace quorvel {
 namespace {
 
-constexpr auto listenerKey = "quorvel-tab", eventKey = "quorvel-tab-event";
+constexpr auto eventKey = "quorvel-tab-event";
 
 /// The engine keeps a text view inside its own for input methods. As a stop of the Tab key it would never be
 /// left (WebKitGTK 2.50 and 2.52).
@@ -28,28 +28,22 @@ gboolean onPress(GtkEventController* keys, guint key, guint, GdkModifierType, Gt
   return FALSE;
 }
 
-void listenTo(GtkWidget* window, GtkWidget* view) {
-  auto* keys = gtk_event_controller_key_new();
-  gtk_event_controller_set_propagation_phase(keys, GTK_PHASE_CAPTURE);
-  g_signal_connect_object(keys, "key-pressed", G_CALLBACK(onPress), view, GConnectFlags(0));
-  gtk_widget_add_controller(window, keys);
-  g_object_set_data_full(G_OBJECT(view), listenerKey, g_object_ref(keys), [](gpointer added) {
-    auto* controller = GTK_EVENT_CONTROLLER(added);
-    if (auto* widget = gtk_event_controller_get_widget(controller))
-      gtk_widget_remove_controller(widget, controller);
-    g_object_unref(controller);
-  });
+/// The listener belongs to the view and goes with it from window to window.
+void onRoot(GtkWidget* view, GParamSpec*, GtkEventController* keys) {
+  if (auto* before = gtk_event_controller_get_widget(keys))
+    gtk_widget_remove_controller(before, keys);
+  if (auto* root = gtk_widget_get_root(view))
+    gtk_widget_add_controller(GTK_WIDGET(root), GTK_EVENT_CONTROLLER(g_object_ref(keys)));
 }
 
 /// Where a key leads out of the page, the engine moves the focus on and also gives the key back, which would
 /// move it once more (WebKitGTK 2.50).
 void leaveOnce(GtkWidget* view) {
-  const auto onRoot = +[](GtkWidget* moved) {
-    g_object_set_data(G_OBJECT(moved), listenerKey, nullptr);
-    if (auto* root = gtk_widget_get_root(moved))
-      listenTo(GTK_WIDGET(root), moved);
-  };
-  g_signal_connect(view, "notify::root", G_CALLBACK(onRoot), nullptr);
+  auto* keys = gtk_event_controller_key_new();
+  gtk_event_controller_set_propagation_phase(keys, GTK_PHASE_CAPTURE);
+  g_signal_connect_object(keys, "key-pressed", G_CALLBACK(onPress), view, GConnectFlags(0));
+  const auto release = +[](gpointer listener, GClosure*) { g_object_unref(listener); };
+  g_signal_connect_data(view, "notify::root", G_CALLBACK(onRoot), keys, release, GConnectFlags(0));
 }
 
 } // namespace
