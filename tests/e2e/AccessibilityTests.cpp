@@ -17,21 +17,11 @@ bool isNamedAfterItsClass(const std::string& name) {
   return name.starts_with("gtkmm__") || name.starts_with("Gtk") || name.starts_with("WebKitWeb");
 }
 
-/// Everything but what is in the page, which is its author's and the engine's.
-void collectOurs(const Accessible& object, std::vector<Accessible>& ours) {
-  ours.push_back(object);
-  if (object.name() == "Page")
-    return;
-  for (const auto& child : object.children())
-    collectOurs(child, ours);
-}
-
-/// What somebody who hears the window would stumble over.
+/// What somebody who hears the window would stumble over. What is in the page is its author's and the
+/// engine's.
 std::vector<std::string> flaws(const Accessible& root) {
   std::vector<std::string> found;
-  std::vector<Accessible> ours;
-  collectOurs(root, ours);
-  for (const auto& object : ours) {
+  for (const auto& object : root.all([](const auto& each) { return each.name() != "Page"; })) {
     const auto name = object.name();
     if (isNamedAfterItsClass(name))
       found.push_back(name + " is announced");
@@ -77,10 +67,8 @@ class ConsoleAccessibilityTest : public ClientTest, public testing::WithParamInt
     return find(name, ATSPI_ROLE_PANEL) || find(name, ATSPI_ROLE_GROUPING);
   }
   std::optional<Accessible> find(const std::string& name, AtspiRole role) const {
-    const auto all = objects();
-    const auto found = std::ranges::find_if(
-        all, [&](const auto& each) { return each.role() == role && each.name() == name; });
-    return found == all.end() ? std::nullopt : std::optional(*found);
+    const auto found = application();
+    return found ? found->find(role, name) : std::nullopt;
   }
   std::vector<std::string> names(AtspiRole role) const {
     std::vector<std::string> names;

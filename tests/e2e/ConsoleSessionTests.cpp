@@ -17,10 +17,8 @@ class ConsoleSessionTest : public testing::Test {
   void press(const std::string& name) const {
     const auto isPressed = [&] {
       const auto application = Accessible::ofProcess(console.id());
-      for (const auto& each : application ? application->all() : std::vector<Accessible>())
-        if (each.role() == ATSPI_ROLE_PUSH_BUTTON && each.name() == name)
-          return each.activate();
-      return false;
+      const auto button = application ? application->find(ATSPI_ROLE_PUSH_BUTTON, name) : std::nullopt;
+      return button && button->activate();
     };
     EXPECT_TRUE(eventually(isPressed)) << name;
   }

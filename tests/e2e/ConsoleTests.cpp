@@ -23,9 +23,7 @@ TEST_F(ConsoleTest, StartingItCreatesNothingOnDiskAndPrintsNothing) {
   const auto before = files();
   const auto log = stage.folder() / "client.log";
   ChildProcess console({QUORVEL_CONSOLE}, {}, log);
-  const auto shown = [] {
-    return outputOf({"xdotool", "search", "--onlyvisible", "--name", "^Quorvel Console$"});
-  };
+  const auto shown = [] { return windowTitled("Quorvel Console"); };
   ASSERT_TRUE(eventually(shown, Not(IsEmpty())));
   ASSERT_TRUE(eventually([&] { return Accessible::ofProcess(console.id()).has_value(); }));
   outputOf({"xdotool", "windowfocus", "--sync", shown(), "key", "ctrl+3", "key", "ctrl+q"});

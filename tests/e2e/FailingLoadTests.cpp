@@ -116,9 +116,7 @@ TEST_F(LoadingTest, APageWhoseProcessDiesWhileItStartsEndsTheProgramWithWordsTha
   EXPECT_THAT(client().said(), Not(HasSubstr("It needs bubblewrap")));
 
   // Whoever started it from the desktop's menu does not see that.
-  const auto shown = [] {
-    return outputOf({"xdotool", "search", "--onlyvisible", "--name", "^Quorvel has stopped$"});
-  };
+  const auto shown = [] { return windowTitled("Quorvel has stopped"); };
   EXPECT_TRUE(eventually(shown, Not(IsEmpty())));
   const auto id = shown();
   const auto program = Accessible::ofProcess(std::stoi(outputOf({"xdotool", "getwindowpid", id})));

@@ -49,9 +49,7 @@ class KillTorture : public ClientTest {
   }
   /// Whether it has said why it ended, on the error output and in a window, which this closes.
   bool explainsItsEnd() {
-    const auto window = [] {
-      return outputOf({"xdotool", "search", "--onlyvisible", "--name", "^Quorvel has stopped$"});
-    };
+    const auto window = [] { return windowTitled("Quorvel has stopped"); };
     if (!eventually(window, Not(IsEmpty())))
       return false;
     outputOf({"xdotool", "windowfocus", "--sync", window(), "key", "Return"});

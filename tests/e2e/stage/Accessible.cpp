@@ -140,16 +140,24 @@ std::optional<Accessible> Accessible::parent() const {
   return reference ? std::optional(Accessible(reference)) : std::nullopt;
 }
 
-void Accessible::collect(std::vector<Accessible>& found) const {
+void Accessible::collect(std::vector<Accessible>& found, const Choice& isEntered) const {
   found.push_back(*this);
-  for (const auto& child : children())
-    child.collect(found);
+  if (isEntered(*this))
+    for (const auto& child : children())
+      child.collect(found, isEntered);
 }
 
-std::vector<Accessible> Accessible::all() const {
+std::vector<Accessible> Accessible::all(const Choice& isEntered) const {
   std::vector<Accessible> found;
-  collect(found);
+  collect(found, isEntered);
   return found;
+}
+
+std::optional<Accessible> Accessible::find(AtspiRole role, const std::string& name) const {
+  for (const auto& object : all())
+    if (object.role() == role && object.name() == name)
+      return object;
+  return std::nullopt;
 }
 
 bool Accessible::activate() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atspi/atspi-constants.h>
+#include <functional>
 #include <glib.h>
 #include <memory>
 #include <optional>
@@ -30,9 +31,12 @@ class Accessible {
   std::vector<Accessible> children() const;
   std::optional<Accessible> parent() const;
 
-  /// This object and everything below it, in reading order. Each object costs some calls to the program: look
-  /// once and keep what was found.
-  std::vector<Accessible> all() const;
+  using Choice = std::function<bool(const Accessible&)>;
+  /// This object and everything below it, in reading order, except what is below one that is not to be
+  /// entered. Each object costs some calls to the program: look once and keep what was found.
+  std::vector<Accessible> all(const Choice& isEntered = [](const Accessible&) { return true; }) const;
+  /// The first of them with this role and name.
+  std::optional<Accessible> find(AtspiRole role, const std::string& name) const;
 
   /// Does what a click would; false when the object offers no action.
   bool activate() const;
@@ -41,7 +45,7 @@ class Accessible {
  private:
   Accessible(std::string program, std::string path);
   explicit Accessible(const Variant& reference);
-  void collect(std::vector<Accessible>& found) const;
+  void collect(std::vector<Accessible>& found, const Choice& isEntered) const;
   Variant ask(const char* interface, const char* method, const char* answer) const;
   Variant property(const char* interface, const char* name, const char* type) const;
 

@@ -13,6 +13,10 @@ std::string buttonFor(const std::string& script) {
   return "<button style='position:fixed;inset:0;width:100%' onclick=\"" + script + "\">Go</button>";
 }
 
+std::string windowTitled(const std::string& title) {
+  return outputOf({"xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"});
+}
+
 Arguments lacking(const std::string& what, const std::vector<std::filesystem::path>& folders) {
   Arguments command = {QUORVEL_SURROUNDINGS, what};
   command.insert(command.end(), folders.begin(), folders.end());

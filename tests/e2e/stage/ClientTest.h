@@ -33,6 +33,9 @@ std::string linkTo(const std::string& address, const std::string& attributes = "
 /// Covers the whole page with a button that runs a script.
 std::string buttonFor(const std::string& script);
 
+/// The number of the window on screen with exactly this title, for xdotool; "" where there is none.
+std::string windowTitled(const std::string& title);
+
 /// What a program is started through so that something is lacking around it, or in these folders; the script
 /// `surroundings` tells what that may be.
 Arguments lacking(const std::string& what, const std::vector<std::filesystem::path>& folders = {});

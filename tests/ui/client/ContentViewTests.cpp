@@ -1,7 +1,7 @@
+#include "client/ContentView.h"
 
 #include "brand/QuorvelBrand.h"
 #include "client/AddressField.h"
-#include "client/ContentView.h"
 #include "client/DesktopClientNavRow.h"
 #include "client/DesktopClientSidebar.h"
 #include "client/DesktopClientToolbar.h"
