@@ -1,5 +1,7 @@
 #include "commands/SecondaryWindow.h"
 
+#include "commands/titleBar.h"
+
 #include <gtkmm/application.h>
 #include <gtkmm/shortcutcontroller.h>
 
@@ -8,6 +10,7 @@ namespace quorvel {
 SecondaryWindow::SecondaryWindow(const Glib::ustring& title, Gtk::Widget& content) {
   set_title(title);
   set_resizable(false);
+  giveTitleBar(*this);
   set_child(content);
 
   auto keys = Gtk::ShortcutController::create();

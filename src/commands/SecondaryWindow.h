@@ -6,8 +6,8 @@
 
 namespace quorvel {
 
-/// A window beside the main one, as large as its content. It has no buttons of its own, cannot be resized,
-/// and Escape closes it.
+/// A window beside the main one, as large as its content below a title bar. It cannot be resized, and Escape
+/// closes it.
 class SecondaryWindow : public Gtk::Window {
  public:
   /// Takes over the content, a managed widget.

@@ -36,7 +36,8 @@ TEST_F(SettingsTest, OnAFreshAccountAllFourSwitchesAreOnInTheGivenOrder) {
   openSettings();
   EXPECT_TRUE(eventually([&] { return client().namesIn(settings, ATSPI_ROLE_LABEL); },
                          ElementsAre("Workspace", "Show inspector", "Daily command brief", "Approval gates",
-                                     "Ad spend changes", "Customer-facing messages")));
+                                     "Ad spend changes", "Customer-facing messages", "Settings")))
+      << "and at last the title bar";
   for (const auto* name :
        {"Show inspector", "Daily command brief", "Ad spend changes", "Customer-facing messages"})
     EXPECT_TRUE(isOn(name)) << name;

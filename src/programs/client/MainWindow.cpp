@@ -2,11 +2,11 @@
 
 #include "client/ContentView.h"
 #include "commands/PrimaryMenu.h"
+#include "commands/titleBar.h"
 #include "programs/client/CommandMenu.h"
 #include "programs/client/habits.h"
 
 #include <glibmm/main.h>
-#include <gtkmm/headerbar.h>
 #include <utility>
 
 namespace quorvel {
@@ -26,13 +26,11 @@ MainWindow::MainWindow(DesktopBrowserModel& browser, Gtk::Application& applicati
     : browser_(browser) {
   set_title("Quorvel");
   set_icon_name("com.quorvel.Desktop");
-  auto* header = Gtk::make_managed<Gtk::HeaderBar>();
-  header->add_css_class("slim");
+  auto& header = giveTitleBar(*this);
   // The menu says the program's name already, and the sidebar below it.
-  header->set_title_widget(*Gtk::make_managed<HStack>(0));
-  header->pack_start(*Gtk::make_managed<CommandMenu>(commands.client, browser, application));
-  header->pack_end(*Gtk::make_managed<PrimaryMenu>(commands.program));
-  set_titlebar(*header);
+  header.set_title_widget(*Gtk::make_managed<HStack>(0));
+  header.pack_start(*Gtk::make_managed<CommandMenu>(commands.client, browser, application));
+  header.pack_end(*Gtk::make_managed<PrimaryMenu>(commands.program));
   set_child(*emptyClient());
   // A long address would otherwise make the window as wide as it would like to be.
   set_default_size(ContentView::minimumWidth, -1);

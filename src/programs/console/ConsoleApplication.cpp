@@ -6,9 +6,9 @@
 #include "commands/PrimaryMenu.h"
 #include "commands/ShortcutsView.h"
 #include "commands/programCommands.h"
+#include "commands/titleBar.h"
 #include "programs/console/ConsoleColumns.h"
 
-#include <gtkmm/headerbar.h>
 #include <string>
 
 namespace quorvel {
@@ -92,12 +92,9 @@ std::unique_ptr<Gtk::Window> ConsoleApplication::makeWindow() {
   auto window = std::make_unique<Gtk::Window>();
   window->set_title("Quorvel Console");
   window->set_icon_name(identifier);
-  auto* header = Gtk::make_managed<Gtk::HeaderBar>();
-  header->add_css_class("slim");
   auto* menu = Gtk::make_managed<PrimaryMenu>(program_);
   menu->set_primary(true); // F10 opens it: there is no menu bar
-  header->pack_end(*menu);
-  window->set_titlebar(*header);
+  giveTitleBar(*window).pack_end(*menu);
   window->set_child(*Gtk::make_managed<ConsoleColumns>(store_, preferences_));
   window->set_default_size(defaultWidth, defaultHeight);
   return window;

@@ -63,6 +63,24 @@ TEST(SecondaryWindowTest, InLargeTextNothingOfWhatAProgramTellsAboutItselfIsCut)
   expectNothingIsCut([&] { return makeAboutWindow(about); });
 }
 
+TEST(SecondaryWindowTest, ItHasATitleBarOnTheProgramsOwnGround) {
+  const TemporaryFolder folder;
+  Preferences preferences(folder.path / "preferences.ini");
+  SecondaryWindow window("Settings", *Gtk::make_managed<SettingsView>(preferences));
+  window.present();
+  ASSERT_TRUE(eventually([&] { return window.get_mapped(); }));
+  drawFrame(window);
+  auto* bar = window.get_titlebar();
+  ASSERT_NE(bar, nullptr);
+  EXPECT_THAT(texts(*bar), ::testing::ElementsAre("Settings"));
+  const auto picture = drawingOf(window);
+  const auto place = boundsInDrawing(window, *bar);
+  const int column = place.get_x() + 40; // nothing of the bar but its ground is there
+  for (int y = place.get_y(); y < place.get_y() + place.get_height() - 1; ++y)
+    EXPECT_LE(picture->get_data()[y * picture->get_stride() + 4 * column], 4) << "grey in line " << y;
+  EXPECT_EQ(window.get_focus(), all<Gtk::Switch>(window).front()) << "and not a button in the bar";
+}
+
 TEST(SecondaryWindowTest, WhatAProgramTellsAboutItselfIsNotSelectedBeforeAnybodySelectsIt) {
   const auto window =
       makeAboutWindow({.name = "Quorvel", .version = "1.2.3", .summary = "", .icon = "", .details = {}});
