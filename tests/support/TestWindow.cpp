@@ -128,6 +128,12 @@ Gdk::Rectangle boundsIn(const Gtk::Widget& ancestor, const Gtk::Widget& widget) 
           static_cast<int>(bounds.size.width), static_cast<int>(bounds.size.height)};
 }
 
+Gdk::Rectangle boundsInDrawing(const Gtk::Window& window, const Gtk::Widget& widget) {
+  const auto frame = boundsIn(window, window), bounds = boundsIn(window, widget);
+  return {bounds.get_x() - frame.get_x(), bounds.get_y() - frame.get_y(), bounds.get_width(),
+          bounds.get_height()};
+}
+
 Color inkOf(Gtk::Widget& widget) {
   const auto color = widget.get_style_context()->get_color();
   return {color.get_red(), color.get_green(), color.get_blue(), color.get_alpha()};

@@ -60,6 +60,8 @@ Gtk::Button* buttonNamed(Gtk::Widget& root, const Glib::ustring& name);
 
 /// Where `widget` is drawn inside `ancestor`, in points.
 Gdk::Rectangle boundsIn(const Gtk::Widget& ancestor, const Gtk::Widget& widget);
+/// Where a window's drawing has it, with the frame around the window.
+Gdk::Rectangle boundsInDrawing(const Gtk::Window& window, const Gtk::Widget& widget);
 /// The colour that a text or a symbol is drawn in.
 Color inkOf(Gtk::Widget& widget);
 /// Whether this is the name that assistive technology reads for the widget.

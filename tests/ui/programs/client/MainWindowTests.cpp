@@ -175,10 +175,11 @@ TEST_F(MainWindowTest, TheHeaderBarSaysTheNameOnceAndAsAMenu) {
   auto* name = tests::labelled(menuBar(), "Quorvel");
   // What is bright in the entry before the name and behind it.
   const auto arrows = [&] {
-    const auto text = tests::boundsIn(*window, *name), entry = tests::boundsIn(*window, *name->get_parent());
+    const auto text = tests::boundsInDrawing(*window, *name);
+    const auto entry = tests::boundsInDrawing(*window, *name->get_parent());
     const int textEnd = text.get_x() + text.get_width(), entryEnd = entry.get_x() + entry.get_width();
     return std::pair(brightest(*window, entry.get_x(), text.get_x() - 1, entry) > 200,
-                     brightest(*window, textEnd + 4, entryEnd, entry) > 200);
+                     brightest(*window, textEnd + 1, entryEnd, entry) > 200);
   };
   EXPECT_EQ(arrows(), std::pair(false, true));
   const tests::RightToLeft desktop;
