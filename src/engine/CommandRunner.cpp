@@ -17,6 +17,12 @@ bool hasFragment(const std::string& address) {
   return address.find('#') != std::string::npos;
 }
 
+/// The view's own address stays behind while it tells of another load.
+std::string asTheEngineWrites(const std::string& address) {
+  const GObjectPointer<WebKitURIRequest> request(webkit_uri_request_new(address.c_str()));
+  return textOrNothing(webkit_uri_request_get_uri(request.get()));
+}
+
 /// Such a load ends as if it had been interrupted: nothing of it is shown, or it becomes a download.
 bool endsWithoutPage(WebKitResponsePolicyDecision* response) {
   auto* answer = webkit_response_policy_decision_get_response(response);
@@ -36,8 +42,8 @@ CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owne
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, CommandRunner* self) { self->noteEvent(event); };
   g_signal_connect(view_, "load-changed", G_CALLBACK(onEvent), this);
-  const auto onFailure = +[](WebKitWebView*, WebKitLoadEvent, const char*, const GError* error,
-                             CommandRunner* self) -> gboolean { return self->noteFailure(error); };
+  const auto onFailure = +[](WebKitWebView*, WebKitLoadEvent, const char* address, const GError* error,
+                             CommandRunner* self) -> gboolean { return self->noteFailure(address, error); };
   g_signal_connect(view_, "load-failed", G_CALLBACK(onFailure), this);
   const auto onEnd = +[](CommandRunner* self) { self->command_.processEnded(); };
   g_signal_connect_swapped(view_, "web-process-terminated", G_CALLBACK(onEnd), this);
@@ -134,15 +140,26 @@ void CommandRunner::carryOut(Wish wish) {
     return;
   }
   isRedirected_ = false;
-  const bool isInHistory = wish_.type == WEBKIT_NAVIGATION_TYPE_BACK_FORWARD;
-  expected_ = isInHistory ? webkit_back_forward_list_item_get_uri(target_.get()) : addressOf(view_);
+  expected_ = destination();
   staysInDocument_ = wish_.type != WEBKIT_NAVIGATION_TYPE_RELOAD && hasFragment(expected_) &&
                      withoutFragment(expected_) == withoutFragment(onScreen);
   // Where there is no page, and none on its way, none can be in the way.
-  if (onScreen.empty() && !wasLoading)
+  isUnopposed_ = onScreen.empty() && !wasLoading;
+  if (isUnopposed_)
     return;
   command_.begin();
   network_.restart();
+}
+
+std::string CommandRunner::destination() const {
+  switch (wish_.type) {
+  case WEBKIT_NAVIGATION_TYPE_BACK_FORWARD:
+    return webkit_back_forward_list_item_get_uri(target_.get());
+  case WEBKIT_NAVIGATION_TYPE_OTHER:
+    return asTheEngineWrites(requested_);
+  default:
+    return addressOf(view_);
+  }
 }
 
 bool CommandRunner::claims(WebKitNavigationAction* action) {
@@ -184,6 +201,11 @@ void CommandRunner::startAfresh() {
   wish_.carryOut();
 }
 
+void CommandRunner::giveUp() {
+  isUnopposed_ = false;
+  command_.end();
+}
+
 void CommandRunner::noteResponse(WebKitResponsePolicyDecision* response) {
   if (webkit_response_policy_decision_is_main_frame_main_resource(response))
     isPageless_ = endsWithoutPage(response);
@@ -195,12 +217,26 @@ void CommandRunner::noteEvent(WebKitLoadEvent event) {
     command_.loadStarted();
   }
   // It may also be a load of the page's that was let go before.
-  if (event == WEBKIT_LOAD_COMMITTED && hasArrived())
+  if (event == WEBKIT_LOAD_COMMITTED && hasArrivedAt(addressOf(view_))) {
+    isUnopposed_ = false;
     command_.loadCommitted();
+  }
+  // The engine's own page about an earlier failure has come in place of what was asked for meanwhile, of
+  // which nothing is heard any more.
+  if (event == WEBKIT_LOAD_FINISHED && addressOf(view_) == failed_ && !hasArrivedAt(failed_) &&
+      !webkit_web_view_is_loading(view_))
+    repeat();
 }
 
-bool CommandRunner::hasArrived() const {
-  return isRedirected_ || expected_.empty() || addressOf(view_) == expected_;
+void CommandRunner::repeat() {
+  if (std::exchange(isUnopposed_, false))
+    wish_.carryOut();
+  else
+    command_.loadBrokenOff();
+}
+
+bool CommandRunner::hasArrivedAt(const std::string& address) const {
+  return isRedirected_ || expected_.empty() || address == expected_;
 }
 
 /// By the page on screen, which stops it or goes somewhere else.
@@ -210,7 +246,10 @@ bool CommandRunner::isBrokenOff(const GError* error) const {
                                           WEBKIT_POLICY_ERROR_FRAME_LOAD_INTERRUPTED_BY_POLICY_CHANGE));
 }
 
-bool CommandRunner::noteFailure(const GError* error) {
+bool CommandRunner::noteFailure(const std::string& address, const GError* error) {
+  failed_ = address;
+  if (hasArrivedAt(failed_))
+    isUnopposed_ = false;
   const bool isLost = NetworkWatch::hasLost(error) && command_.isUnderWay();
   // The page's menu has a way to stop it.
   if (isLost || (isBrokenOff(error) && !owner_.isInPage()))

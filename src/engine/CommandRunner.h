@@ -43,7 +43,7 @@ class CommandRunner : public sigc::trackable {
   /// What the view is asked about an answer to one of its loads.
   void noteResponse(WebKitResponsePolicyDecision* response);
   /// What was asked for is not waited for any longer.
-  void giveUp() { command_.end(); }
+  void giveUp();
 
  private:
   /// What was asked for, and as what the engine will ask back.
@@ -57,16 +57,18 @@ class CommandRunner : public sigc::trackable {
   void goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*));
   void noteTarget(const std::string& address);
   void carryOut(Wish wish);
+  std::string destination() const;
   void ask();
   /// `place` is where the page says it is.
   void noteAnswer(const std::string& place);
   void insist();
   void startAfresh();
   void noteEvent(WebKitLoadEvent event);
-  bool hasArrived() const;
+  bool hasArrivedAt(const std::string& address) const;
   bool isBrokenOff(const GError* error) const;
+  void repeat();
   /// Whether the engine need not show that it failed.
-  bool noteFailure(const GError* error);
+  bool noteFailure(const std::string& address, const GError* error);
 
   void tellToLoad();
 
@@ -75,10 +77,12 @@ class CommandRunner : public sigc::trackable {
   std::string requested_;
   Wish wish_;
   std::string expected_; // the address that the wish leads to, as the engine writes it; empty if not known
+  std::string failed_;   // the address of the last load that did
   bool staysInDocument_ = false;
   bool isRedirected_ = false;
   bool isPageless_ = false;                          // what was answered
   bool isOverruled_ = false;                         // the page, without another question
+  bool isUnopposed_ = false;                         // by any page, so far as the view knew
   GObjectPointer<WebKitBackForwardListItem> target_; // in the history
   OwnersCommand command_;
   NetworkWatch network_;

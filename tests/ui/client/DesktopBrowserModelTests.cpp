@@ -292,6 +292,24 @@ TEST_F(DesktopBrowserModelTest, AFailedLoadEndsTheLoadingStateAndTheAddressIsWha
   }
 }
 
+// The engine's own page about a load that failed is a load, too, which it sends after what it announces.
+TEST_F(DesktopBrowserModelTest, TheEnginesErrorPageDoesNotTakeThePlaceOfWhatIsAskedForMeanwhile) {
+  std::function<void()> next;
+  const auto onEnd = +[](WebKitWebView*, WebKitLoadEvent event, std::function<void()>* task) {
+    if (event == WEBKIT_LOAD_FINISHED)
+      if (const auto todo = std::exchange(*task, {}))
+        todo();
+  };
+  g_signal_connect(webView(), "load-changed", G_CALLBACK(onEnd), &next);
+  for (int i = 0; i < 10; ++i) {
+    next = [&] { model->load(server.address(i % 2 ? "/pricing.html" : "/agent.html")); };
+    model->load("http://nowhere.invalid/");
+    waitForAddress(i % 2 ? "/pricing.html" : "/agent.html");
+    if (HasFatalFailure())
+      return;
+  }
+}
+
 TEST_F(DesktopBrowserModelTest, WhereTheViewReportsNoTitleTheProgramsNameStandsForIt) {
   start("fresh");
   model->title = "Another";
