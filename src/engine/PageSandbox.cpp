@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
+#include <sstream>
 #include <unistd.h>
 #include <utility>
 
@@ -24,9 +24,9 @@ bool looksLikeSnap() {
 
 /// An empty file of this name is no Flatpak's.
 bool isFlatpakInfo(const fs::path& path) {
-  std::ifstream file(path);
-  const std::string text{std::istreambuf_iterator<char>(file), {}};
-  return text.find("[Application]") != std::string::npos;
+  std::ostringstream text; // which has nothing where it cannot be read
+  text << std::ifstream(path).rdbuf();
+  return text.str().find("[Application]") != std::string::npos;
 }
 
 std::string listed(const std::vector<std::string>& names) {
