@@ -41,9 +41,11 @@ void printInto(const std::string& file) {
   ::dup2(output, STDERR_FILENO);
 }
 
+/// "" where there is none, or none any more: what is said of a process goes with it.
 std::string textOf(const std::string& path) {
-  std::ifstream file(path);
-  return {std::istreambuf_iterator<char>(file), {}};
+  std::ostringstream text;
+  text << std::ifstream(path).rdbuf();
+  return text.str();
 }
 
 struct ProcessStatus {
