@@ -1,5 +1,7 @@
 #include "e2e/stage/ClientTest.h"
 
+#include <unistd.h>
+
 namespace quorvel::e2e {
 namespace {
 
@@ -12,7 +14,10 @@ TEST_F(StartTest, NormalUsePrintsNothing) {
   client().press("Pricing");
   waitForPage("/pricing.html");
   quit();
-  EXPECT_EQ(client().said(), "");
+  // Where nobody can have a user namespace, root's tests stay root's.
+  EXPECT_EQ(client().said(), ::geteuid() != 0 ? ""
+                                              : "Quorvel runs as root, and so do its pages inside their "
+                                                "sandbox; an ordinary user's lack such rights.\n");
 }
 
 TEST_F(StartTest, TheFirstRequestIsTheAgentPageAndNamesTheClient) {

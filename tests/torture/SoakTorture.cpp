@@ -8,6 +8,8 @@
 namespace quorvel::e2e {
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr int step = 25; // navigations from one look at the memory to the next
 
 /// What a process holds in memory, in MiB.
@@ -57,7 +59,8 @@ class SoakTorture : public ClientTest {
     Course course;
     for (int at = 0; at <= navigations; at += step) {
       const auto report = "/report?" + name + "=" + std::to_string(at);
-      if (!eventually([&] { return stage.requests().count(report) > 0; }))
+      // Each step is as many loads.
+      if (!eventually([&] { return stage.requests().count(report) > 0; }, Eq(true), 60s))
         throw std::runtime_error("the page of the " + name + " has stopped before " + std::to_string(at));
       course.push_back(memoryOf(program));
     }
