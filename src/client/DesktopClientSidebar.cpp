@@ -39,19 +39,13 @@ Gtk::Widget* statusCard() {
   return padded({.trailing = 20, .bottom = 18, .leading = 20}, card);
 }
 
-/// As high as its content where there is room; with large text in a low window it scrolls.
-Gtk::Widget* scrolled(Gtk::Widget* content) {
-  auto* scroller = verticalScroller("Destinations", content);
-  scroller->set_propagate_natural_height(true);
-  return stretched(scroller);
-}
-
 } // namespace
 
 DesktopClientSidebar::DesktopClientSidebar(DesktopBrowserModel& browser) : VStack(18), browser_(browser) {
   add_css_class("client-sidebar");
   auto* newChat = newChatButton(FontWeight::black, [&browser] { browser.load(QuorvelRoute::agent); });
-  add({header(), padded(20, 0, newChat), scrolled(destinations()), vspacer(), statusCard()});
+  add({header(), padded(20, 0, newChat), stretched(verticalScroller("Destinations", destinations())),
+       vspacer(), statusCard()});
   observe(browser, *this, &DesktopClientSidebar::refresh);
 }
 

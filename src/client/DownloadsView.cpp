@@ -120,7 +120,6 @@ DownloadsView::DownloadsView(DesktopBrowserModel& browser)
       rows_(*lines_, [this](const Download& download) { return makeRow(download); }) {
   add_css_class("client-downloads");
   auto* scroller = verticalScroller("Downloads", padded(14, 7, stretched(lines_)));
-  scroller->set_propagate_natural_height(true);
   scroller->set_max_content_height(mostHeight);
   add({stretched(scroller)});
   watchUse();

@@ -27,7 +27,6 @@ Words wordsOf(PageDialog::Kind kind) {
 
 Gtk::Widget* scrolling(Gtk::Label* text) {
   auto* scroller = verticalScroller("Question", text);
-  scroller->set_propagate_natural_height(true);
   scroller->set_max_content_height(mostTextHeight);
   return stretched(scroller);
 }

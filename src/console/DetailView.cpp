@@ -20,9 +20,7 @@ namespace quorvel {
 
 DetailView::DetailView(WorkspaceStore& store, Preferences& preferences)
     : store_(store), preferences_(preferences) {
-  // Scrolls like any other area; it is only the bar that is never there.
-  set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::EXTERNAL);
-  nameScroller(*this, "Screen");
+  scrollVertically(*this, "Screen");
   observe(store, *this, &DetailView::refresh);
 }
 

@@ -85,7 +85,8 @@ Gtk::Widget* vspacer(int minimum) {
   return decorative(spacer);
 }
 
-void nameScroller(Gtk::ScrolledWindow& scroller, const Glib::ustring& name) {
+void scrollVertically(Gtk::ScrolledWindow& scroller, const Glib::ustring& name) {
+  scroller.set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::EXTERNAL);
   setAccessibleName(scroller, name);
   for (auto* bar : {scroller.get_hscrollbar(), scroller.get_vscrollbar()})
     setAccessiblyHidden(*bar);
@@ -93,9 +94,9 @@ void nameScroller(Gtk::ScrolledWindow& scroller, const Glib::ustring& name) {
 
 Gtk::ScrolledWindow* verticalScroller(const Glib::ustring& name, Gtk::Widget* content) {
   auto* scroller = Gtk::make_managed<Gtk::ScrolledWindow>();
-  scroller->set_policy(Gtk::PolicyType::NEVER, Gtk::PolicyType::AUTOMATIC);
   scroller->set_child(*content);
-  nameScroller(*scroller, name);
+  scroller->set_propagate_natural_height(true);
+  scrollVertically(*scroller, name);
   return scroller;
 }
 

@@ -60,11 +60,11 @@ HStack* hstack(int spacing, Children children, VerticalAlignment alignment = Ver
 Gtk::Widget* hspacer(int minimum = defaultSpacing);
 /// Takes the room that is left between its neighbours in a `VStack`, and never less than `minimum` points.
 Gtk::Widget* vspacer(int minimum = defaultSpacing);
-/// Lets an area that scrolls be heard by this name: by key it scrolls too, and where nothing in it takes the
-/// focus it does. Its bars are for the pointer.
-void nameScroller(Gtk::ScrolledWindow& scroller, const Glib::ustring& name);
+/// Has an area scroll up and down, and be heard by this name: by key it scrolls too, and where nothing in it
+/// takes the focus it does. It shows no bar, which would take room from the content on some machines.
+void scrollVertically(Gtk::ScrolledWindow& scroller, const Glib::ustring& name);
 /// The content, which is never narrower than it must be, in an area of this name that scrolls it up and
-/// down. Managed.
+/// down where there is no room for all of it. Managed.
 Gtk::ScrolledWindow* verticalScroller(const Glib::ustring& name, Gtk::Widget* content);
 /// A horizontal line, one point high, as wide as its stack.
 Gtk::Widget* divider();

@@ -49,6 +49,15 @@ class SidebarTest : public ::testing::Test {
   TestWindow window_{sidebar_, 272, 760};
 };
 
+TEST_F(SidebarTest, ShowsNoBarWhereItScrolls) {
+  SidebarView low(store_);
+  const TestWindow window(low, 272, 500);
+  const auto* scroller = all<Gtk::ScrolledWindow>(low).front();
+  EXPECT_GT(scroller->get_vadjustment()->get_upper(), scroller->get_height());
+  for (auto* bar : all<Gtk::Scrollbar>(low))
+    EXPECT_FALSE(bar->get_mapped());
+}
+
 TEST_F(SidebarTest, ShowsTheEightSectionsInOrderWithTheThreeBadgesOfTheSampleWorkspace) {
   EXPECT_THAT(rowTexts(WorkspaceSection::overview), ElementsAre("Command Center", "Today at a glance"));
   EXPECT_THAT(rowTexts(WorkspaceSection::agents), ElementsAre("Agent Team", "Specialized helpers"));
