@@ -12,7 +12,8 @@ Gtk::Button* button(Gtk::Widget* label, ButtonStyle style, Action action) {
   result->set_child(*label);
   result->add_css_class("quorvel-button");
   setLook(*result, style);
-  result->signal_clicked().connect(action);
+  if (action)
+    result->signal_clicked().connect(action);
   return result;
 }
 

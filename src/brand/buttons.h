@@ -20,6 +20,7 @@ struct EnumerationTable<ButtonStyle> {
                                                   Row{"button-prominent"}, Row{"button-link"}};
 };
 
+/// What a press does; where it is empty, nothing.
 using Action = std::function<void()>;
 
 /// A button with a text. Managed.

@@ -14,10 +14,10 @@ namespace {
 constexpr auto licence = "All rights reserved; the libraries it is built on keep their own licences.";
 
 Gtk::Button& copyingButton(const std::string& text) {
-  auto* copy = button("Copy", ButtonStyle::bordered, {});
-  copy->signal_clicked().connect([copy, text] { copy->get_clipboard()->set_text(text); });
-  setAccessibleDescription(*copy, "Copies everything that is said here, for a report");
-  return *copy;
+  const auto copy = [text] { Gdk::Display::get_default()->get_clipboard()->set_text(text); };
+  auto* result = button("Copy", ButtonStyle::bordered, copy);
+  setAccessibleDescription(*result, "Copies everything that is said here, for a report");
+  return *result;
 }
 
 Gtk::Label* selectable(const std::string& content) {

@@ -82,5 +82,20 @@ TEST_F(SecondaryWindowTest, ASecondStartBringsBackTheMainWindowAndNoOther) {
   EXPECT_EQ(client().windows().size(), 1u);
 }
 
+TEST_F(SecondaryWindowTest, WhatAboutSaysIsCopiedAndCanBePastedIntoAReport) {
+  stage.servePage("agent.html",
+                  "<textarea style='position:fixed;inset:0;width:100%' onfocus=\"report('focus')\""
+                  " oninput=\"report(encodeURIComponent(this.value.split('\\n')[0]))\"></textarea>");
+  start();
+  open(about);
+  client().type("Return"); // the focus is on "Copy"
+  client().type("Escape");
+  expectClosed(about);
+  client().clickPage();
+  EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains("focus")));
+  client().type("ctrl+v");
+  EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains(testing::StartsWith("Quorvel%20"))));
+}
+
 } // namespace
 } // namespace quorvel::e2e

@@ -299,5 +299,12 @@ TEST(Typography, TextGrowsWithTheTextSizeOfTheDesktop) {
   settings->property_gtk_xft_dpi() = dpi;
 }
 
+TEST(ButtonTest, WithoutAnActionAPressDoesNothing) {
+  auto* idle = button("Idle", ButtonStyle::bordered, {});
+  const TestWindow window(*idle);
+  click(*idle);
+  EXPECT_TRUE(idle->get_mapped());
+}
+
 } // namespace
 } // namespace quorvel

@@ -94,5 +94,23 @@ TEST(SecondaryWindowTest, WhatAProgramTellsAboutItselfIsNotSelectedBeforeAnybody
   EXPECT_EQ(window->get_focus(), buttonNamed(*window, "Copy"));
 }
 
+TEST(SecondaryWindowTest, WhatAProgramTellsAboutItselfIsCopiedAsOneText) {
+  const About about{.name = "Quorvel",
+                    .version = "1.2.3",
+                    .summary = "",
+                    .icon = "",
+                    .details = {"WebKitGTK 2.50", "Cache: /home/somebody/.cache"}};
+  const auto window = makeAboutWindow(about);
+  window->present();
+  ASSERT_TRUE(eventually([&] { return window->get_mapped(); }));
+  click(*buttonNamed(*window, "Copy"));
+  Glib::ustring copied;
+  const auto clipboard = window->get_clipboard();
+  clipboard->read_text_async([&](const auto& result) { copied = clipboard->read_text_finish(result); });
+  EXPECT_TRUE(eventually([&] { return !copied.empty(); }));
+  EXPECT_EQ(copied.raw(), about.text());
+  EXPECT_THAT(about.text(), ::testing::StartsWith("Quorvel 1.2.3\nWebKitGTK 2.50\nCache: /home/somebody"));
+}
+
 } // namespace
 } // namespace quorvel
