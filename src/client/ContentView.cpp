@@ -64,7 +64,7 @@ ContentView::ContentView(DesktopBrowserModel& browser)
 
 void ContentView::refresh() {
   warning_->show(*browser_.warning);
-  dialog_->show(browser_.dialog, displayedAddress(*browser_.currentURLString).origin);
+  dialog_->show(browser_.dialog, displayedAddress(browser_.addressOnScreen()).origin);
   spinner_->set_visible(browser_.isLoading);
   spinner_->set_spinning(browser_.isLoading);
 }

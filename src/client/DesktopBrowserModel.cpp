@@ -54,6 +54,10 @@ bool DesktopBrowserModel::isShowing(QuorvelRoute route) const {
   return matches(route, address.empty() ? std::string_view(*currentURLString) : address);
 }
 
+std::string DesktopBrowserModel::addressOnScreen() const {
+  return webView_.addressOfAsker().value_or(*currentURLString);
+}
+
 void DesktopBrowserModel::answer(const DialogAnswer& answer) {
   webView_.answer(answer);
 }

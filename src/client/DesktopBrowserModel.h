@@ -55,6 +55,9 @@ class DesktopBrowserModel final : public ObservableObject, public sigc::trackabl
   /// Opens the view's present address, or the agent's when there is none, in the user's default browser.
   void openExternal();
   bool isShowing(QuorvelRoute route) const;
+  /// What to tell the owner of where this is: `currentURLString`, or whose page is still on screen while the
+  /// window that it has asked for is to come.
+  std::string addressOnScreen() const;
   /// Answers the page's dialog; without one nothing happens.
   void answer(const DialogAnswer& answer);
   /// Breaks off a download that is under way.

@@ -25,7 +25,7 @@ DesktopClientToolbar::DesktopClientToolbar(DesktopBrowserModel& browser)
 void DesktopClientToolbar::refresh() {
   setEnabled(*back_, browser_.canGoBack);
   setEnabled(*forward_, browser_.canGoForward);
-  address_->show(*browser_.currentURLString);
+  address_->show(browser_.addressOnScreen());
 }
 
 /// A button that is disabled under the keyboard's focus would drop it; the one beside it takes it over.

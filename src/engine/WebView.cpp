@@ -46,7 +46,7 @@ class WebView::Engine {
 
   /// For what the owner asks for now.
   CommandRunner& commands() {
-    isOwnerInPage_ = false;
+    isOwnerInPage_ = isWindowAwaited_ = false;
     renew();
     dismissDialogs();
     dialogs_.startAfresh();
@@ -61,6 +61,7 @@ class WebView::Engine {
     dialogs_.dismiss();
     closePrintDialog(view());
   }
+  std::optional<std::string> addressOfAsker() const;
   bool isLoading() const { return webkit_web_view_is_loading(view()) && !watchdog_.hasGivenUp(); }
 
  private:
@@ -88,9 +89,10 @@ class WebView::Engine {
   OncePerGesture launches_; // of mail and telephone programs
   OncePerGesture downloads_;
   OncePerGesture prints_;
-  bool isOwnerInPage_ = false; // rather than at the last command
-  bool isByGesture_ = false;   // the navigation under way
-  bool isAskedByPage_ = false; // for what the owner of the view is told at this moment
+  bool isOwnerInPage_ = false;   // rather than at the last command
+  bool isByGesture_ = false;     // the navigation under way
+  bool isWindowAwaited_ = false; // which the page on screen has asked for
+  bool isAskedByPage_ = false;   // for what the owner of the view is told at this moment
 };
 
 void WebView::Engine::watchState() {
@@ -135,6 +137,8 @@ void WebView::Engine::noteGesture() {
 void WebView::Engine::noteEvent(WebKitLoadEvent event) {
   // The first word of a page: its process is there, and nothing of it is on the screen yet.
   sandbox_.look();
+  if (event == WEBKIT_LOAD_COMMITTED && addressOfAsker() == addressOf(view()))
+    isWindowAwaited_ = false;
   if (event == WEBKIT_LOAD_COMMITTED && std::exchange(isByGesture_, false)) {
     renew();
     dialogs_.startAfresh();
@@ -185,9 +189,17 @@ void WebView::Engine::openWindow(WebKitNavigationAction* action) {
   const auto asked = request(action, true);
   if (isInTheWay(action) || settle(asked) != NavigationChoice::view)
     return;
-  isAskedByPage_ = true;
+  isAskedByPage_ = isWindowAwaited_ = true;
   owner_.openWindow(asked.address);
   isAskedByPage_ = false;
+}
+
+/// The engine's own word for it is where it is on the way to; the history knows of what has come.
+std::optional<std::string> WebView::Engine::addressOfAsker() const {
+  auto* shown = webkit_back_forward_list_get_current_item(webkit_web_view_get_back_forward_list(view()));
+  if (!isWindowAwaited_ || !webkit_web_view_is_loading(view()) || !shown)
+    return std::nullopt;
+  return textOrNothing(webkit_back_forward_list_item_get_uri(shown));
 }
 
 NavigationChoice WebView::Engine::settle(const NavigationRequest& asked) {
@@ -265,6 +277,10 @@ void WebView::copyAddress(std::string& address) const {
   // While a redirect to a mail address is being refused, the view names it as its own. Its beginning tells.
   if (choose({std::string(seen, strnlen(seen, 32))}) != NavigationChoice::system)
     address = seen;
+}
+
+std::optional<std::string> WebView::addressOfAsker() const {
+  return engine_->addressOfAsker();
 }
 
 std::optional<std::string> WebView::title() const {

@@ -64,6 +64,9 @@ class WebView {
   /// The same into `address`, which stays as it is where there is none. A page's address may be megabytes
   /// long and change all the time: it is copied no more often than it must be.
   void copyAddress(std::string& address) const;
+  /// While a window that a page has asked for has nothing to show yet: the address of that page, which is
+  /// still on screen and may say anything. Otherwise nothing.
+  std::optional<std::string> addressOfAsker() const;
   /// The page's title, which may be empty; nothing where the page names none.
   std::optional<std::string> title() const;
 

@@ -21,7 +21,9 @@
 namespace quorvel {
 namespace {
 
+using ::testing::Each;
 using ::testing::ElementsAre;
+using ::testing::Eq;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using tests::boundsIn;
@@ -479,6 +481,34 @@ TEST_F(ContentViewTest, WhatAPagePutsIntoItsAddressMisleadsNobody) {
   EXPECT_EQ(*model->currentURLString, misleading) << "what is published is exact";
   ASSERT_TRUE(tests::eventually([&] { return shownAddress() == server.address("/pricing.html"); }))
       << shownAddress();
+}
+
+TEST_F(ContentViewTest, UntilAWindowThatAPageAsksForIsThereTheFieldAndItsDialogsTellOfThatPage) {
+  server.silence("/silent.html");
+  runScript("setTimeout(() => { open('/silent.html?1'); setTimeout(() => { open('/silent.html?2');"
+            "setTimeout(() => alert('Sign in'), 50) }, 50) }); 0");
+  std::vector<std::string> shown;
+  ASSERT_TRUE(tests::eventually([&] {
+    shown.push_back(shownAddress());
+    return *model->currentURLString == server.address("/silent.html?2") && model->dialog->has_value();
+  }));
+  tests::drawFrame(*view);
+  shown.push_back(shownAddress());
+  EXPECT_THAT(shown, Each(server.address("/agent.html")));
+
+  model->load(server.address("/pricing.html"));
+  tests::drawFrame(*view);
+  EXPECT_EQ(shownAddress(), server.address("/pricing.html")) << "what the owner asks for is told at once";
+}
+
+TEST_F(ContentViewTest, AWindowThatAPageAsksForIsToldOfAsSoonAsItIsThere) {
+  const auto page = server.address("/pricing.html");
+  const std::string nowhere = "http://127.0.0.1:65535/"; // the system gives this port to nobody
+  for (const auto& address : {page, nowhere}) {
+    runScript("setTimeout(() => open('" + address + "')); 0");
+    EXPECT_TRUE(tests::eventually([&] { return shownAddress(); }, Eq(address)));
+    waitForRest();
+  }
 }
 
 TEST_F(ContentViewTest, AnAddressOfAMegabyteIsCutBeforeItIsLaidOut) {
