@@ -150,8 +150,12 @@ TEST_F(MainWindowTest, WithoutHistoryTheBackCommandDoesNothing) {
   EXPECT_EQ(server.requests().size(), 1u);
 }
 
-TEST_F(MainWindowTest, TheContentKeepsItsLeastSizeBelowTheHeaderBar) {
+TEST_F(MainWindowTest, TheWindowHasTheProgramsNameAndIcon) {
   EXPECT_EQ(window->get_title(), "Quorvel");
+  EXPECT_EQ(window->get_icon_name(), "com.quorvel.Desktop");
+}
+
+TEST_F(MainWindowTest, TheContentKeepsItsLeastSizeBelowTheHeaderBar) {
   window->set_default_size(300, 200);
   tests::drawFrame(*window);
   auto* content = tests::all<ContentView>(*window).front();

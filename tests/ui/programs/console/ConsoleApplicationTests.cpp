@@ -239,6 +239,7 @@ TEST_F(ConsoleApplicationTest, ShowsOneWindowOfItsName) {
   visit([&] {
     ASSERT_EQ(application_->get_windows().size(), 1U);
     EXPECT_EQ(window().get_title(), "Quorvel Console");
+    EXPECT_EQ(window().get_icon_name(), "com.quorvel.Console");
     EXPECT_NE(dynamic_cast<ConsoleColumns*>(window().get_child()), nullptr);
   });
 }
@@ -246,9 +247,13 @@ TEST_F(ConsoleApplicationTest, ShowsOneWindowOfItsName) {
 TEST_F(ConsoleApplicationTest, ASecondLaunchPresentsTheWindowThatIsThere) {
   visit([&] {
     auto* before = &window();
+    Gtk::Window other;
+    other.present();
+    ASSERT_TRUE(eventually([&] { return other.is_active() && !before->is_active(); }));
     application_->activate();
     ASSERT_EQ(application_->get_windows().size(), 1U);
     EXPECT_EQ(&window(), before);
+    EXPECT_TRUE(eventually([&] { return before->is_active(); }));
   });
 }
 
