@@ -95,6 +95,25 @@ INSTANTIATE_TEST_SUITE_P(Section, ConsoleAccessibilityTest,
                            return name;
                          });
 
+using ConsoleWindowsAccessibilityTest = ConsoleAccessibilityTest;
+
+TEST_P(ConsoleWindowsAccessibilityTest, AllCanBeHeard) {
+  const auto strikeInMain = [](const std::string& keys) {
+    outputOf({"xdotool", "windowfocus", "--sync", windowTitled("Quorvel Console"), "key", keys});
+  };
+  strikeInMain("ctrl+question");
+  ASSERT_TRUE(eventually([] { return windowTitled("Keyboard Shortcuts"); }, Not(IsEmpty())));
+  strikeInMain("F10");
+  ASSERT_TRUE(eventually([&] { return names(ATSPI_ROLE_MENU_ITEM); }, Contains("About")));
+  outputOf({"xdotool", "key", "Down", "key", "Return"});
+  ASSERT_TRUE(eventually([] { return windowTitled("About Quorvel Console"); }, Not(IsEmpty())));
+  ASSERT_TRUE(eventually([&] { return application()->children(); }, SizeIs(3)));
+  EXPECT_THAT(flaws(*application()), IsEmpty()) << describe(*application());
+}
+
+INSTANTIATE_TEST_SUITE_P(Section, ConsoleWindowsAccessibilityTest, testing::Values("Command Center"),
+                         [](const auto&) { return "CommandCenter"; });
+
 using LiveRequestsAccessibilityTest = ConsoleAccessibilityTest;
 
 TEST_P(LiveRequestsAccessibilityTest, StepsSayWhetherTheyAreDone) {

@@ -97,5 +97,13 @@ TEST_F(SecondaryWindowTest, WhatAboutSaysIsCopiedAndCanBePastedIntoAReport) {
   EXPECT_TRUE(eventually([&] { return stage.reports(); }, Contains(testing::StartsWith("Quorvel%20"))));
 }
 
+TEST_F(SecondaryWindowTest, TheWebsiteThatAboutNamesOpensInTheBrowser) {
+  start();
+  open(about);
+  client().type("Tab");
+  client().type("Return");
+  EXPECT_TRUE(eventually([&] { return stage.handedToSystem(); }, ElementsAre(origin)));
+}
+
 } // namespace
 } // namespace quorvel::e2e
