@@ -1,5 +1,6 @@
 #include "engine/makeView.h"
 
+#include "engine/bubbles.h"
 #include "engine/pageGround.h"
 #include "engine/permissions.h"
 #include "engine/swipes.h"
@@ -52,6 +53,7 @@ GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   allowSwipes(WEBKIT_WEB_VIEW(view));
   keepTabMoving(WEBKIT_WEB_VIEW(view));
   keepGroundDark(WEBKIT_WEB_VIEW(view));
+  cutBubbles(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }
 

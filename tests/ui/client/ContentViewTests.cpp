@@ -519,6 +519,18 @@ TEST_F(ContentViewTest, AnAddressOfAMegabyteIsCutBeforeItIsLaidOut) {
   EXPECT_EQ(bounds(the<DesktopClientToolbar>()).get_width(), 873);
 }
 
+TEST_F(ContentViewTest, AMegabyteInABubbleBesideAFieldIsCutBeforeItIsLaidOut) {
+  runScript("const field = document.createElement('input'); document.body.append(field);"
+            "field.setCustomValidity('ä'.repeat(1e6)); field.reportValidity(); 0");
+  const auto bubble = [&] {
+    auto* child = gtk_widget_get_last_child(GTK_WIDGET(webView()));
+    return GTK_IS_POPOVER(child) && gtk_widget_get_visible(child) ? gtk_popover_get_child(GTK_POPOVER(child))
+                                                                  : nullptr;
+  };
+  ASSERT_TRUE(tests::eventually([&] { return bubble() != nullptr; }));
+  EXPECT_EQ(Glib::ustring(gtk_label_get_text(GTK_LABEL(bubble()))), Glib::ustring(300, gunichar{0xe4}));
+}
+
 TEST_F(ContentViewTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlways) {
   EXPECT_FALSE(button("Back").get_sensitive());
   EXPECT_FALSE(button("Forward").get_sensitive());
