@@ -15,6 +15,8 @@ void PrintTo(const Permission& permission, std::ostream* out) {
 class PermissionTest : public ModelTest, public ::testing::WithParamInterface<Permission> {};
 
 TEST_P(PermissionTest, IsRefused) {
+  // Without a camera there would be nothing to refuse.
+  webkit_settings_set_enable_mock_capture_devices(webkit_web_view_get_settings(webView()), TRUE);
   server.page("/asking.html", "<title>Asking</title><body><p>text</p></body>");
   auto& view = model->webView().widget();
   tests::TestWindow window(view, 600, 400);
