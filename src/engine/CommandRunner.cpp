@@ -91,14 +91,21 @@ void CommandRunner::goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKit
   if (!neighbour)
     return;
   target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(neighbour)));
-  Wish wish{WEBKIT_NAVIGATION_TYPE_BACK_FORWARD,
-            [this] { webkit_web_view_go_to_back_forward_list_item(view_, target_.get()); }};
+  Wish wish{WEBKIT_NAVIGATION_TYPE_BACK_FORWARD, [this] { goToTarget(); }};
   wish.begin = [this, go, onScreen = addressOf(view_)] {
     go(view_);
     if (addressOf(view_) != onScreen)
       noteTarget(addressOf(view_));
   };
   carryOut(std::move(wish));
+}
+
+/// From 2.52 on, a page that changes its address just then writes it into the item that is being gone to.
+void CommandRunner::goToTarget() {
+  if (webkit_back_forward_list_item_get_uri(target_.get()) == expected_)
+    webkit_web_view_go_to_back_forward_list_item(view_, target_.get());
+  else
+    webkit_web_view_load_uri(view_, expected_.c_str());
 }
 
 /// The engine leaves out what a page has put into the history by itself, and says only where it goes.
@@ -135,12 +142,12 @@ void CommandRunner::carryOut(Wish wish) {
     wish_.begin();
   else if (!isBeyond)
     wish_.carryOut();
+  isRedirected_ = false;
+  expected_ = destination();
   if (isBeyond) {
     insist();
     return;
   }
-  isRedirected_ = false;
-  expected_ = destination();
   staysInDocument_ = wish_.type != WEBKIT_NAVIGATION_TYPE_RELOAD && hasFragment(expected_) &&
                      withoutFragment(expected_) == withoutFragment(onScreen);
   // Where there is no page, and none on its way, none can be in the way.
@@ -198,6 +205,7 @@ void CommandRunner::insist() {
 void CommandRunner::startAfresh() {
   command_.end();
   webkit_web_view_terminate_web_process(view_);
+  isUnopposed_ = wish_.type != WEBKIT_NAVIGATION_TYPE_RELOAD; // which leads to wherever the page was
   wish_.carryOut();
 }
 
@@ -216,26 +224,24 @@ void CommandRunner::noteEvent(WebKitLoadEvent event) {
     isPageless_ = false;
     command_.loadStarted();
   }
-  // It may also be a load of the page's that was let go before.
-  if (event == WEBKIT_LOAD_COMMITTED && hasArrivedAt(addressOf(view_))) {
-    isUnopposed_ = false;
-    command_.loadCommitted();
-  }
+  if (event == WEBKIT_LOAD_COMMITTED)
+    noteArrivalAt(addressOf(view_));
   // The engine's own page about an earlier failure has come in place of what was asked for meanwhile, of
   // which nothing is heard any more.
-  if (event == WEBKIT_LOAD_FINISHED && addressOf(view_) == failed_ && !hasArrivedAt(failed_) &&
+  if (event == WEBKIT_LOAD_FINISHED && addressOf(view_) == failed_ && !leadsTo(failed_) &&
       !webkit_web_view_is_loading(view_))
-    repeat();
-}
-
-void CommandRunner::repeat() {
-  if (std::exchange(isUnopposed_, false))
-    wish_.carryOut();
-  else
     command_.loadBrokenOff();
 }
 
-bool CommandRunner::hasArrivedAt(const std::string& address) const {
+void CommandRunner::noteArrivalAt(const std::string& address) {
+  const bool wasUnopposed = std::exchange(isUnopposed_, false);
+  if (leadsTo(address))
+    command_.loadCommitted(); // rather than a load of the page's that was let go before
+  else if (wasUnopposed)
+    wish_.carryOut(); // a page about a failure came first, or where the ended process was on its way to
+}
+
+bool CommandRunner::leadsTo(const std::string& address) const {
   return isRedirected_ || expected_.empty() || address == expected_;
 }
 
@@ -248,7 +254,7 @@ bool CommandRunner::isBrokenOff(const GError* error) const {
 
 bool CommandRunner::noteFailure(const std::string& address, const GError* error) {
   failed_ = address;
-  if (hasArrivedAt(failed_))
+  if (leadsTo(failed_))
     isUnopposed_ = false;
   const bool isLost = NetworkWatch::hasLost(error) && command_.isUnderWay();
   // The page's menu has a way to stop it.

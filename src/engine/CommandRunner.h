@@ -55,6 +55,7 @@ class CommandRunner : public sigc::trackable {
 
   bool isBeyondAsking() const;
   void goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*));
+  void goToTarget();
   void noteTarget(const std::string& address);
   void carryOut(Wish wish);
   std::string destination() const;
@@ -64,9 +65,9 @@ class CommandRunner : public sigc::trackable {
   void insist();
   void startAfresh();
   void noteEvent(WebKitLoadEvent event);
-  bool hasArrivedAt(const std::string& address) const;
+  void noteArrivalAt(const std::string& address);
+  bool leadsTo(const std::string& address) const;
   bool isBrokenOff(const GError* error) const;
-  void repeat();
   /// Whether the engine need not show that it failed.
   bool noteFailure(const std::string& address, const GError* error);
 

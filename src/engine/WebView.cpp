@@ -162,7 +162,7 @@ void WebView::Engine::watchNavigation() {
 
 /// Until the owner has what he has asked for; unless he has turned to the page since, and wants this.
 bool WebView::Engine::isInTheWay(WebKitNavigationAction* action) {
-  if (!commands_.isUnderWay() || commands_.claims(action))
+  if (commands_.claims(action) || !commands_.isUnderWay())
     return false;
   if (isOwnerInPage_ && webkit_navigation_action_is_user_gesture(action))
     commands_.giveUp();
