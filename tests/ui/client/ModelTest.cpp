@@ -9,10 +9,12 @@ ModelTest::ModelTest() {
 }
 
 // A page that computes for ever would keep its process, and with it whoever reads what the tests say, for 10
-// s.
+// s. One that is ended while it starts ends the tests, too.
 ModelTest::~ModelTest() {
-  if (model)
-    webkit_web_view_terminate_web_process(webView());
+  if (!model)
+    return;
+  EXPECT_TRUE(tests::eventually([this] { return isPageThere_; }));
+  webkit_web_view_terminate_web_process(webView());
 }
 
 void ModelTest::start(const std::string& name) {
@@ -22,11 +24,13 @@ void ModelTest::start(const std::string& name) {
       .openInSystem = [this](const std::string& address) { opened.push_back(address); },
       .showInFolder = [this](const std::string& path) { shownInFolder.push_back(path); },
       .startTimer = timer.function()});
-  const auto onLoad = +[](WebKitWebView* view, WebKitLoadEvent event, std::string* document) {
+  isPageThere_ = false;
+  const auto onLoad = +[](WebKitWebView* view, WebKitLoadEvent event, ModelTest* self) {
+    self->isPageThere_ = true;
     if (event == WEBKIT_LOAD_COMMITTED)
-      *document = webkit_web_view_get_uri(view);
+      self->document_ = webkit_web_view_get_uri(view);
   };
-  g_signal_connect(webView(), "load-changed", G_CALLBACK(onLoad), &document_);
+  g_signal_connect(webView(), "load-changed", G_CALLBACK(onLoad), this);
 }
 
 void ModelTest::show(const std::string& path) {
@@ -38,10 +42,13 @@ void ModelTest::show(const std::string& path) {
 void ModelTest::waitForAddress(const std::string& path) {
   const auto address = server.address(path);
   const auto isThere = [&] {
-    return *model->currentURLString == address && !webkit_web_view_is_loading(webView()) &&
-           document_.starts_with(address.substr(0, address.find_first_of("?#")));
+    return *model->currentURLString == address && !webkit_web_view_is_loading(webView()) && isDocument(path);
   };
   ASSERT_TRUE(tests::eventually(isThere)) << *model->currentURLString << " instead of " << address;
+}
+
+bool ModelTest::isDocument(const std::string& path) const {
+  return document_.starts_with(server.address(path.substr(0, path.find_first_of("?#"))));
 }
 
 void ModelTest::waitForRest() {

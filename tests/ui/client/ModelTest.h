@@ -45,6 +45,8 @@ class ModelTest : public ::testing::Test {
   /// Loads the address and waits until it is on screen and nothing is loading.
   void show(const std::string& path);
   void waitForAddress(const std::string& path);
+  /// Whether this is what the page on screen was loaded from.
+  bool isDocument(const std::string& path) const;
   /// Waits until the model has seen the end of the load.
   void waitForRest();
   void runScript(const std::string& script);
@@ -69,7 +71,8 @@ class ModelTest : public ::testing::Test {
     std::chrono::steady_clock::time_point startedAt;
   };
   std::map<ManualTimer::Delay, Watch> watches_{{OwnersCommand::interval, {}}, {OwnersCommand::patience, {}}};
-  std::string document_; // the address of the document on screen
+  bool isPageThere_ = false; // its process has been heard of
+  std::string document_;     // the address of the document on screen
 };
 
 } // namespace quorvel
