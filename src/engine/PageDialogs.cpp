@@ -1,21 +1,12 @@
 #include "engine/PageDialogs.h"
 
+#include "engine/shortened.h"
+
 #include <glibmm/main.h>
 #include <utility>
 
 namespace quorvel {
 namespace {
-
-/// At the most 2,000 characters, which is more than anybody reads and less than anything costs.
-std::string shortened(const char* text) {
-  constexpr glong longest = 2'000;
-  if (!text)
-    return "";
-  const char* end = text;
-  for (glong count = 0; *end && count < longest; ++count)
-    end = g_utf8_next_char(end);
-  return *end ? std::string(text, end) + "…" : text;
-}
 
 PageDialog::Kind kindOf(WebKitScriptDialog* dialog) {
   switch (webkit_script_dialog_get_dialog_type(dialog)) {
@@ -72,11 +63,12 @@ void PageDialogs::ask(WebKitScriptDialog* dialog) {
     return;
   }
   const bool isPrompt = kindOf(dialog) == PageDialog::Kind::prompt;
-  const PageDialog shown{.kind = kindOf(dialog),
-                         .text = shortened(webkit_script_dialog_get_message(dialog)),
-                         .answer =
-                             isPrompt ? shortened(webkit_script_dialog_prompt_get_default_text(dialog)) : "",
-                         .number = ++count_};
+  const PageDialog shown{
+      .kind = kindOf(dialog),
+      .text = shortened(webkit_script_dialog_get_message(dialog), whereTextScrolls),
+      .answer =
+          isPrompt ? shortened(webkit_script_dialog_prompt_get_default_text(dialog), whereTextScrolls) : "",
+      .number = ++count_};
   shown_ = std::move(asked);
   owner_.onChange(shown);
 }

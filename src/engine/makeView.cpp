@@ -1,10 +1,11 @@
 #include "engine/makeView.h"
 
-#include "engine/bubbles.h"
 #include "engine/pageGround.h"
 #include "engine/permissions.h"
+#include "engine/popups.h"
 #include "engine/swipes.h"
 #include "engine/tabKey.h"
+#include "engine/tips.h"
 
 #include <string>
 
@@ -53,7 +54,8 @@ GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   allowSwipes(WEBKIT_WEB_VIEW(view));
   keepTabMoving(WEBKIT_WEB_VIEW(view));
   keepGroundDark(WEBKIT_WEB_VIEW(view));
-  cutBubbles(WEBKIT_WEB_VIEW(view));
+  cutPopups(WEBKIT_WEB_VIEW(view));
+  cutTips(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }
 

@@ -528,7 +528,7 @@ TEST_F(ContentViewTest, AMegabyteInABubbleBesideAFieldIsCutBeforeItIsLaidOut) {
                                                                   : nullptr;
   };
   ASSERT_TRUE(tests::eventually([&] { return bubble() != nullptr; }));
-  EXPECT_EQ(Glib::ustring(gtk_label_get_text(GTK_LABEL(bubble()))), Glib::ustring(300, gunichar{0xe4}));
+  EXPECT_EQ(Glib::ustring(gtk_label_get_text(GTK_LABEL(bubble()))), Glib::ustring(500, gunichar{0xe4}) + "…");
 }
 
 TEST_F(ContentViewTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlways) {

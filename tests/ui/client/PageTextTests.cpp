@@ -1,0 +1,136 @@
+#include "support/RealInput.h"
+#include "ui/client/ModelTest.h"
+
+namespace quorvel {
+namespace {
+
+using ::testing::Eq;
+using ::testing::Lt;
+
+/// How long the window has answered nobody, at the most, since this was made.
+class LongestSilence {
+ public:
+  LongestSilence() : id_(g_timeout_add(10, note, this)) {}
+  ~LongestSilence() { g_source_remove(id_); }
+  LongestSilence(const LongestSilence&) = delete;
+  LongestSilence& operator=(const LongestSilence&) = delete;
+
+  long milliseconds() {
+    note(this);
+    return std::chrono::duration_cast<std::chrono::milliseconds>(longest_).count();
+  }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  static gboolean note(gpointer silence) {
+    auto* self = static_cast<LongestSilence*>(silence);
+    const auto now = Clock::now();
+    self->longest_ = std::max(self->longest_, now - std::exchange(self->last_, now));
+    return G_SOURCE_CONTINUE;
+  }
+  guint id_;
+  Clock::time_point last_ = Clock::now();
+  Clock::duration longest_{};
+};
+
+constexpr long bearable = 2'000; // milliseconds; where nothing is cut it is several times as long
+
+/// What a page says outside of its own area: in tips and lists, which the toolkit lays out.
+class PageTextTest : public ModelTest {
+ protected:
+  /// Shows a page with one thing, which fills it.
+  void showThing(const std::string& thing, const std::string& script) {
+    server.page("/thing.html", "<title>Thing</title><style>#thing { position: fixed; inset: 0; width: 100% }"
+                               "</style>" +
+                                   thing + "<script>" + script + "</script>");
+    show("/thing.html");
+    tests::focusOn(page());
+  }
+  /// The list that the page has had opened.
+  Gtk::TreeView* openList() {
+    auto* popup = gtk_widget_get_last_child(GTK_WIDGET(webView()));
+    if (!GTK_IS_POPOVER(popup) || !gtk_widget_get_mapped(popup))
+      return nullptr;
+    const auto lists = tests::all<Gtk::TreeView>(*Glib::wrap(popup));
+    return lists.empty() ? nullptr : lists.front();
+  }
+  Gtk::TreeView& nextList() {
+    if (!tests::eventually([&] { return openList() != nullptr; }))
+      throw std::runtime_error("no list was opened");
+    tests::drawFrame(*openList());
+    return *openList();
+  }
+  /// What the list has drawn last.
+  static std::string lastTextIn(Gtk::TreeView& list) {
+    return dynamic_cast<Gtk::CellRendererText&>(*list.get_column(0)->get_first_cell())
+        .property_text()
+        .get_value();
+  }
+  void expectTitle(const std::string& title) {
+    EXPECT_TRUE(tests::eventually([&] { return *model->title; }, Eq(title)));
+  }
+  Gtk::Widget& page() { return model->webView().widget(); }
+
+  tests::TestWindow window{page(), 600, 400};
+  const std::string cut = std::string(500, 'x').append("…");
+};
+
+TEST_F(PageTextTest, ATipOfAMegabyteIsCut) {
+  showThing("<p id=thing>", "thing.title = 'x'.repeat(1e6)");
+  LongestSilence silence;
+  tests::pointAt(page());
+  EXPECT_EQ(tests::nextTooltip(), cut);
+  tests::drawFrame(page());
+  EXPECT_THAT(silence.milliseconds(), Lt(bearable));
+}
+
+TEST_F(PageTextTest, ATipThatCanBeReadIsShownAsItIs) {
+  showThing("<p id=thing title='Größe <b> &amp;amp; Farbe'>", "");
+  tests::pointAt(page());
+  EXPECT_EQ(tests::nextTooltip(), "Größe <b> &amp; Farbe");
+}
+
+TEST_F(PageTextTest, ChoicesOfAMegabyteAreCutAndCanBeTaken) {
+  showThing("<select id=thing><optgroup><option><option></optgroup></select>",
+            "for (const each of thing) each.text = 'x'.repeat(1e6);"
+            "thing.firstChild.label = 'x'.repeat(1e6); thing.selectedIndex = -1;"
+            "thing.onchange = () => document.title = thing.selectedIndex");
+  LongestSilence silence;
+  tests::clickOn(page());
+  auto& list = nextList();
+  EXPECT_EQ(lastTextIn(list), cut);
+  tests::clickOn(list);
+  expectTitle("0");
+  EXPECT_THAT(silence.milliseconds(), Lt(bearable));
+}
+
+TEST_F(PageTextTest, TheTipOfAChoiceIsCut) {
+  showThing("<select id=thing><option>One<option>Two<option>Three</select>",
+            "for (const each of thing) each.title = 'x'.repeat(1e6)");
+  LongestSilence silence;
+  tests::clickOn(page());
+  auto& list = nextList();
+  EXPECT_EQ(lastTextIn(list), "Three");
+  tests::pointAt(list);
+  EXPECT_EQ(tests::nextTooltip(), cut);
+  tests::drawFrame(page());
+  EXPECT_THAT(silence.milliseconds(), Lt(bearable));
+}
+
+TEST_F(PageTextTest, LongSuggestionsAreCutAndTakenWhole) {
+  // The engine suggests nothing that is much longer.
+  showThing("<input id=thing list=all><datalist id=all></datalist>",
+            "for (let i = 0; i < 20; ++i) all.append(new Option('', 'x'.repeat(1e5 + i)));"
+            "thing.oninput = () => document.title = thing.value.length > 1e5");
+  LongestSilence silence;
+  tests::clickOn(page());
+  auto& list = nextList();
+  EXPECT_EQ(lastTextIn(list), cut);
+  tests::clickOn(list);
+  expectTitle("true");
+  EXPECT_THAT(silence.milliseconds(), Lt(bearable));
+}
+
+} // namespace
+} // namespace quorvel
