@@ -60,6 +60,13 @@ void follow(GtkPopover* popup) {
   g_signal_connect(popup, "notify::child", G_CALLBACK(cutIn), nullptr);
 }
 
+void cutLabelsIn(GtkWidget* dialog) {
+  if (GTK_IS_LABEL(dialog))
+    cut(GTK_LABEL(dialog));
+  for (auto* each = gtk_widget_get_first_child(dialog); each; each = gtk_widget_get_next_sibling(each))
+    cutLabelsIn(each);
+}
+
 } // namespace
 
 void cutPopups(WebKitWebView* view) {
@@ -68,6 +75,8 @@ void cutPopups(WebKitWebView* view) {
       const GObjectPointer<GObject> child(G_OBJECT(g_list_model_get_item(children, position + i)));
       if (GTK_IS_POPOVER(child.get()))
         follow(GTK_POPOVER(child.get()));
+      else
+        cutLabelsIn(GTK_WIDGET(child.get()));
     }
   };
   auto* children = gtk_widget_observe_children(GTK_WIDGET(view));

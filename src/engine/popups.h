@@ -4,8 +4,9 @@
 
 namespace quorvel {
 
-/// Cuts what a page says in a bubble beside a field of a form and in the list of a field's choices: the
-/// engine lays out all of it, and a megabyte would hold the window up for seconds.
+/// Cuts what a page says in a bubble beside a field of a form and in the list of a field's choices, and what
+/// its server says in the question for a sign-in: the engine lays out all of it, and a megabyte would hold
+/// the window up for seconds.
 void cutPopups(WebKitWebView* view);
 
 } // namespace quorvel

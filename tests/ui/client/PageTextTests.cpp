@@ -132,5 +132,21 @@ TEST_F(PageTextTest, LongSuggestionsAreCutAndTakenWhole) {
   EXPECT_THAT(silence.milliseconds(), Lt(bearable));
 }
 
+TEST_F(PageTextTest, WhatAServerSaysInItsQuestionForASignInIsCut) {
+  server.answer("/sign-in", [](SoupServerMessage* message) {
+    soup_server_message_set_status(message, SOUP_STATUS_UNAUTHORIZED, nullptr);
+    soup_message_headers_replace(soup_server_message_get_response_headers(message), "WWW-Authenticate",
+                                 ("Basic realm=\"" + std::string(60'000, 'x') + "\"").c_str());
+  });
+  model->load(server.address("/sign-in"));
+  const auto said = [&] {
+    const auto all = tests::texts(page());
+    return std::count_if(all.begin(), all.end(), [](const auto& text) { return text.ends_with("xx…"); });
+  };
+  EXPECT_TRUE(tests::eventually(said, Eq(1)));
+  for (const auto& text : tests::texts(page()))
+    EXPECT_LE(Glib::ustring(text).size(), 501u);
+}
+
 } // namespace
 } // namespace quorvel
