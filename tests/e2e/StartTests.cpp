@@ -1,11 +1,21 @@
 #include "e2e/stage/ClientTest.h"
 
+#include <regex>
 #include <unistd.h>
 
 namespace quorvel::e2e {
 namespace {
 
-using StartTest = ClientTest;
+class StartTest : public ClientTest {
+ protected:
+  /// Without what a page's process, from 2.52 on, may say of its end: that the way to the session bus has
+  /// gone before it.
+  std::string saidBeforeItsEnd() {
+    static const std::regex farewell(
+        "\n\\(process:\\d+\\): GLib-GIO-WARNING [^\n]*Error releasing name [^\n]*\n");
+    return std::regex_replace(client().said(), farewell, "");
+  }
+};
 
 TEST_F(StartTest, NormalUsePrintsNothing) {
   start();
@@ -15,9 +25,9 @@ TEST_F(StartTest, NormalUsePrintsNothing) {
   waitForPage("/pricing.html");
   quit();
   // Where nobody can have a user namespace, root's tests stay root's.
-  EXPECT_EQ(client().said(), ::geteuid() != 0 ? ""
-                                              : "Quorvel runs as root, and so do its pages inside their "
-                                                "sandbox; an ordinary user's lack such rights.\n");
+  EXPECT_EQ(saidBeforeItsEnd(), ::geteuid() != 0 ? ""
+                                                 : "Quorvel runs as root, and so do its pages inside their "
+                                                   "sandbox; an ordinary user's lack such rights.\n");
 }
 
 TEST_F(StartTest, TheFirstRequestIsTheAgentPageAndNamesTheClient) {
