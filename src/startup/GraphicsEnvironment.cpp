@@ -38,11 +38,15 @@ void GraphicsEnvironment::spareAnimations() const {
 
 // Without graphics hardware GL and Vulkan are emulated, which costs a third of the time to the first page and
 // 40 % of the memory. Toolkit and engine are told so too, or they would try it and complain. GTK 4.16 gave
-// this a variable of its own, and complains of the older words.
+// this a variable of its own, and complains of the older words. The driver that emulates would keep what it
+// compiles on disk, in fifty files.
 std::vector<GraphicsEnvironment::Variable> GraphicsEnvironment::withoutGraphicsHardware() const {
   const Variable off = toolkit_ >= 16 ? Variable{"GDK_DISABLE", "gl:vulkan"}
                                       : Variable{"GDK_DEBUG", "gl-disable:vulkan-disable"};
-  return {off, {"GSK_RENDERER", "cairo"}, {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"}};
+  return {off,
+          {"GSK_RENDERER", "cairo"},
+          {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"},
+          {"MESA_SHADER_CACHE_DISABLE", "true"}};
 }
 
 bool GraphicsEnvironment::hasRenderNode() const {

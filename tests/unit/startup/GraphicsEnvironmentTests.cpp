@@ -20,14 +20,15 @@ using Variable = GraphicsEnvironment::Variable;
 
 const std::vector<Variable> withoutGl{{"GDK_DEBUG", "gl-disable:vulkan-disable"},
                                       {"GSK_RENDERER", "cairo"},
-                                      {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"}};
+                                      {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"},
+                                      {"MESA_SHADER_CACHE_DISABLE", "true"}};
 const Variable plainRenderer{"WEBKIT_DISABLE_DMABUF_RENDERER", "1"};
 
 /// A machine's `dev`, `proc` and `sys` in a folder of the test's.
 struct GraphicsEnvironmentTest : ::testing::Test {
   GraphicsEnvironmentTest() {
     for (const auto* name : {"GDK_DEBUG", "GDK_DISABLE", "GSK_RENDERER", "WEBKIT_DISABLE_COMPOSITING_MODE",
-                             "WEBKIT_DISABLE_DMABUF_RENDERER"})
+                             "MESA_SHADER_CACHE_DISABLE", "WEBKIT_DISABLE_DMABUF_RENDERER"})
       g_unsetenv(name);
   }
 
