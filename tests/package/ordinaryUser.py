@@ -11,6 +11,11 @@ PROJECT = Path(__file__).resolve().parents[2]
 STAND_IN = "nobody"
 
 
+def stays_root():
+    """Where the root folder is a changed one, as package builders have it, nobody but root can have namespaces."""
+    return os.geteuid() == 0 and subprocess.run(["unshare", "--user", "true"], stderr=subprocess.DEVNULL).returncode != 0
+
+
 class OrdinaryUser:
     def __init__(self):
         self.folder = Path(tempfile.mkdtemp(prefix="quorvel-user-"))
@@ -30,8 +35,10 @@ class OrdinaryUser:
         """What a login without a desktop has."""
         return {"PATH": "/usr/local/bin:/usr/bin:/bin:/usr/sbin:/sbin", "HOME": str(self.home), "LANG": "C.UTF-8", **more}
 
-    def start(self, *command, **options):
-        user = {"user": STAND_IN, "group": pwd.getpwnam(STAND_IN).pw_gid, "extra_groups": []} if os.geteuid() == 0 else {}
+    def start(self, *command, needs_namespaces=False, **options):
+        user = {"user": STAND_IN, "group": pwd.getpwnam(STAND_IN).pw_gid, "extra_groups": []}
+        if os.geteuid() != 0 or (needs_namespaces and stays_root()):
+            user = {}
         options = {"env": self.environment(), "cwd": self.folder, **options}
         return subprocess.Popen([str(word) for word in command], text=True, stdin=subprocess.DEVNULL, **user, **options)
 
