@@ -56,9 +56,13 @@ class PageTextTest : public ModelTest {
     return lists.empty() ? nullptr : lists.front();
   }
   Gtk::TreeView& nextList() {
-    if (!tests::eventually([&] { return openList() != nullptr; }))
+    const auto staysOpen = [&] {
+      if (openList())
+        tests::drawFrame(page());
+      return openList() != nullptr;
+    };
+    if (!tests::eventually(staysOpen))
       throw std::runtime_error("no list was opened");
-    tests::drawFrame(*openList());
     return *openList();
   }
   /// What the list has drawn last.
