@@ -6,10 +6,15 @@
 namespace quorvel {
 namespace {
 
+/// Has what is kept of a text put in its place, where that is not all of it.
+template <class Put>
+void cut(const char* text, Put put) {
+  if (const auto kept = shortened(text, whereTextGrows); text && kept != text)
+    put(kept.c_str());
+}
+
 void cut(GtkLabel* label) {
-  const char* text = gtk_label_get_text(label);
-  if (const auto kept = shortened(text, whereTextGrows); kept != text)
-    gtk_label_set_text(label, kept.c_str());
+  cut(gtk_label_get_text(label), [label](const char* kept) { gtk_label_set_text(label, kept); });
 }
 
 gboolean cutRow(GtkTreeModel* rows, GtkTreePath*, GtkTreeIter* row, gpointer) {
@@ -18,8 +23,7 @@ gboolean cutRow(GtkTreeModel* rows, GtkTreePath*, GtkTreeIter* row, gpointer) {
       continue;
     g_autofree char* text = nullptr;
     gtk_tree_model_get(rows, row, column, &text, -1);
-    if (const auto kept = shortened(text, whereTextGrows); text && kept != text)
-      gtk_tree_store_set(GTK_TREE_STORE(rows), row, column, kept.c_str(), -1);
+    cut(text, [&](const char* kept) { gtk_tree_store_set(GTK_TREE_STORE(rows), row, column, kept, -1); });
   }
   return FALSE;
 }
@@ -27,8 +31,7 @@ gboolean cutRow(GtkTreeModel* rows, GtkTreePath*, GtkTreeIter* row, gpointer) {
 void cutCell(GtkCellRenderer* cell) {
   g_autofree char* text = nullptr;
   g_object_get(cell, "text", &text, nullptr);
-  if (const auto kept = shortened(text, whereTextGrows); text && kept != text)
-    g_object_set(cell, "text", kept.c_str(), nullptr);
+  cut(text, [cell](const char* kept) { g_object_set(cell, "text", kept, nullptr); });
 }
 
 /// The choices of a field that takes nothing else, which are known by their places; or suggestions, which
