@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <fstream>
 #include <glib.h>
-#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <sys/prctl.h>
@@ -169,8 +168,7 @@ std::string outputOf(const Arguments& command, const Environment& environment) {
   const tests::TemporaryFolder folder;
   const auto file = folder.path / "output";
   ChildProcess(command, environment, file).waitForEnd();
-  std::ifstream stream(file);
-  std::string result{std::istreambuf_iterator<char>(stream), {}};
+  auto result = textOf(file);
   if (result.ends_with('\n'))
     result.pop_back();
   return result;
