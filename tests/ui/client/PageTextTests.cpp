@@ -71,6 +71,16 @@ class PageTextTest : public ModelTest {
         .property_text()
         .get_value();
   }
+  /// Opens the list, of whose texts there is only the beginning, and takes what is in its middle.
+  void takeFromCutList(const std::string& expectedTitle) {
+    LongestSilence silence;
+    tests::clickOn(page());
+    auto& list = nextList();
+    EXPECT_EQ(lastTextIn(list), cut);
+    tests::clickOn(list);
+    expectTitle(expectedTitle);
+    EXPECT_THAT(silence.milliseconds(), Lt(bearable));
+  }
   void expectTitle(const std::string& title) {
     EXPECT_TRUE(tests::eventually([&] { return *model->title; }, Eq(title)));
   }
@@ -100,13 +110,7 @@ TEST_F(PageTextTest, ChoicesOfAMegabyteAreCutAndCanBeTaken) {
             "for (const each of thing) each.text = 'x'.repeat(1e6);"
             "thing.firstChild.label = 'x'.repeat(1e6); thing.selectedIndex = -1;"
             "thing.onchange = () => document.title = thing.selectedIndex");
-  LongestSilence silence;
-  tests::clickOn(page());
-  auto& list = nextList();
-  EXPECT_EQ(lastTextIn(list), cut);
-  tests::clickOn(list);
-  expectTitle("0");
-  EXPECT_THAT(silence.milliseconds(), Lt(bearable));
+  takeFromCutList("0");
 }
 
 TEST_F(PageTextTest, TheTipOfAChoiceIsCut) {
@@ -127,13 +131,7 @@ TEST_F(PageTextTest, LongSuggestionsAreCutAndTakenWhole) {
   showThing("<input id=thing list=all><datalist id=all></datalist>",
             "for (let i = 0; i < 20; ++i) all.append(new Option('', 'x'.repeat(1e5 + i)));"
             "thing.oninput = () => document.title = thing.value.length > 1e5");
-  LongestSilence silence;
-  tests::clickOn(page());
-  auto& list = nextList();
-  EXPECT_EQ(lastTextIn(list), cut);
-  tests::clickOn(list);
-  expectTitle("true");
-  EXPECT_THAT(silence.milliseconds(), Lt(bearable));
+  takeFromCutList("true");
 }
 
 TEST_F(PageTextTest, WhatAServerSaysInItsQuestionForASignInIsCut) {
