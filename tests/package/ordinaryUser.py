@@ -4,6 +4,7 @@ import pwd
 import shutil
 import subprocess
 import tempfile
+from functools import cache
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
@@ -11,6 +12,7 @@ PROJECT = Path(__file__).resolve().parents[2]
 STAND_IN = "nobody"
 
 
+@cache
 def stays_root():
     """Where the root folder is a changed one, as package builders have it, nobody but root can have namespaces."""
     return os.geteuid() == 0 and subprocess.run(["unshare", "--user", "true"], stderr=subprocess.DEVNULL).returncode != 0
@@ -36,9 +38,9 @@ class OrdinaryUser:
         return {"PATH": "/usr/local/bin:/usr/bin:/bin:/usr/sbin:/sbin", "HOME": str(self.home), "LANG": "C.UTF-8", **more}
 
     def start(self, *command, needs_namespaces=False, **options):
-        user = {"user": STAND_IN, "group": pwd.getpwnam(STAND_IN).pw_gid, "extra_groups": []}
-        if os.geteuid() != 0 or (needs_namespaces and stays_root()):
-            user = {}
+        is_stood_in_for = os.geteuid() == 0 and not (needs_namespaces and stays_root())
+        user = ({"user": STAND_IN, "group": pwd.getpwnam(STAND_IN).pw_gid, "extra_groups": []}
+                if is_stood_in_for else {})
         options = {"env": self.environment(), "cwd": self.folder, **options}
         return subprocess.Popen([str(word) for word in command], text=True, stdin=subprocess.DEVNULL, **user, **options)
 
