@@ -4,6 +4,8 @@
 namespace quorvel {
 namespace {
 
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::Eq;
 using ::testing::Lt;
 
@@ -47,24 +49,23 @@ class PageTextTest : public ModelTest {
     show("/thing.html");
     tests::focusOn(page());
   }
-  /// The list that the page has had opened.
-  Gtk::TreeView* openList() {
+  /// The bubble or list that the page has had opened.
+  Gtk::Widget* openPopup() {
     auto* popup = gtk_widget_get_last_child(GTK_WIDGET(webView()));
-    if (!GTK_IS_POPOVER(popup) || !gtk_widget_get_mapped(popup))
-      return nullptr;
-    const auto lists = tests::all<Gtk::TreeView>(*Glib::wrap(popup));
-    return lists.empty() ? nullptr : lists.front();
+    return GTK_IS_POPOVER(popup) && gtk_widget_get_mapped(popup) ? Glib::wrap(popup) : nullptr;
   }
-  Gtk::TreeView& nextList() {
+  /// One for which there is no room closes while it is drawn.
+  Gtk::Widget& nextPopup() {
     const auto staysOpen = [&] {
-      if (openList())
+      if (openPopup())
         tests::drawFrame(page());
-      return openList() != nullptr;
+      return openPopup() != nullptr;
     };
     if (!tests::eventually(staysOpen))
-      throw std::runtime_error("no list was opened");
-    return *openList();
+      throw std::runtime_error("nothing stayed open");
+    return *openPopup();
   }
+  Gtk::TreeView& nextList() { return *tests::all<Gtk::TreeView>(nextPopup()).at(0); }
   /// What the list has drawn last.
   static std::string lastTextIn(Gtk::TreeView& list) {
     return dynamic_cast<Gtk::CellRendererText&>(*list.get_column(0)->get_first_cell())
@@ -132,6 +133,47 @@ TEST_F(PageTextTest, LongSuggestionsAreCutAndTakenWhole) {
             "for (let i = 0; i < 20; ++i) all.append(new Option('', 'x'.repeat(1e5 + i)));"
             "thing.oninput = () => document.title = thing.value.length > 1e5");
   takeFromCutList("true");
+}
+
+TEST_F(PageTextTest, WhatIsOnAChoiceIsShownAsItIs) {
+  showThing("<select id=thing><option title='Tea &amp; &lt;Cake'>One<optgroup label='Food &amp; <i>Drink'>"
+            "</select>",
+            "");
+  tests::clickOn(page());
+  auto& list = nextList();
+  EXPECT_EQ(lastTextIn(list), "Food & <i>Drink");
+  const auto rows = list.get_model();
+  Glib::ustring tip;
+  rows->children()[0].get_value(list.get_tooltip_column(), tip);
+  EXPECT_EQ(tip, "Tea &amp; &lt;Cake") << "the toolkit takes it for markup";
+}
+
+TEST_F(PageTextTest, AChoiceOfManyLinesCanBeTaken) {
+  showThing("<select id=thing><option></select>", "thing[0].label = 'x' + '\\n'.repeat(400) + 'x';"
+                                                  "thing.selectedIndex = -1;"
+                                                  "thing.onchange = () => document.title = 'Taken'");
+  tests::clickOn(page());
+  tests::clickOn(nextList());
+  expectTitle("Taken");
+}
+
+TEST_F(PageTextTest, ALongChoiceIsTakenByKeys) {
+  showThing("<select id=thing><option>One<option></select>",
+            "thing[1].text = 'x'.repeat(1e6); thing.focus();"
+            "thing.onchange = () => document.title = thing.selectedIndex");
+  tests::pointAt(page());
+  tests::strikeKey("space");
+  nextList();
+  tests::strikeKey("Down");
+  tests::strikeKey("Return");
+  expectTitle("1");
+}
+
+TEST_F(PageTextTest, ABubbleOfManyLinesStaysOpen) {
+  showThing("<form><input id=thing></form>",
+            "thing.setCustomValidity('x\\n'.repeat(200)); thing.onclick = () => thing.reportValidity()");
+  tests::clickOn(page());
+  EXPECT_THAT(tests::texts(nextPopup()), ElementsAre(EndsWith("x\nx…")));
 }
 
 TEST_F(PageTextTest, WhatAServerSaysInItsQuestionForASignInIsCut) {

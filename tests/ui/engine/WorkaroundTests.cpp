@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <gtkmm/box.h>
 #include <gtkmm/button.h>
+#include <gtkmm/popover.h>
 #include <webkit/webkit.h>
 
 namespace quorvel {
@@ -43,6 +44,21 @@ TEST(Workaround, OlderEnginesMoveTheFocusOutOfThePageAndGiveTheKeyBackAsWell) {
   const bool isOlder = webkit_get_minor_version() < 52;
   EXPECT_TRUE(tests::eventually([&] { return (isOlder ? nextButOne : next).has_focus(); }))
       << "see keepTabMoving()";
+}
+
+TEST(Workaround, NewerToolkitsCloseAPopupThatFindsNoRoom) {
+  Gtk::Box content;
+  tests::TestWindow window(content, 400, 300);
+  Gtk::Popover popup;
+  Gtk::Box inside;
+  inside.set_size_request(10'000, 20);
+  popup.set_child(inside);
+  popup.set_parent(content);
+  popup.popup();
+  tests::drawFrame(content);
+  const bool isOlder = gtk_get_minor_version() < 18;
+  EXPECT_TRUE(tests::eventually([&] { return popup.get_visible() == isOlder; })) << "see fit() in popups.cpp";
+  popup.unparent();
 }
 
 TEST(Workaround, TheEngineStillCrashesWhereItTakesAPictureForSwipesWithoutAWindow) {
