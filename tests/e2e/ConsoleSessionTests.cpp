@@ -3,8 +3,6 @@
 #include "e2e/stage/Stage.h"
 #include "support/eventually.h"
 
-#include <fstream>
-
 namespace quorvel::e2e {
 namespace {
 
@@ -22,10 +20,7 @@ class ConsoleSessionTest : public testing::Test {
     };
     EXPECT_TRUE(eventually(isPressed)) << name;
   }
-  std::string said() const {
-    std::ifstream file(log_);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string said() const { return textOf(log_); }
 
   const Stage stage;
 

@@ -1,6 +1,5 @@
 #include "e2e/stage/ClientTest.h"
 
-#include <fstream>
 #include <iterator>
 #include <regex>
 
@@ -11,8 +10,7 @@ class OwnPagesTest : public ClientTest {
  protected:
   /// How often Tab is pressed before the first field of a page has the focus.
   static long linksBeforeTheForm(const std::string& page) {
-    std::ifstream file(std::string(QUORVEL_OWN_PAGES) + "/" + page);
-    const std::string html{std::istreambuf_iterator<char>(file), {}};
+    const auto html = textOf(std::string(QUORVEL_OWN_PAGES) + "/" + page);
     const std::regex link("<a ");
     const auto start = html.cbegin();
     const auto form = start + static_cast<long>(html.find("<form"));

@@ -1,7 +1,6 @@
 #include "e2e/stage/ClientTest.h"
 
 #include <fstream>
-#include <iterator>
 
 namespace quorvel::e2e {
 namespace {
@@ -21,10 +20,7 @@ class SettingsTest : public ClientTest {
     EXPECT_TRUE(eventually([&] { return isOn(name); }, Eq(on))) << name;
   }
   fs::path file() const { return stage.config() / "quorvel" / "preferences.ini"; }
-  std::string stored() const {
-    std::ifstream stream(file());
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
+  std::string stored() const { return textOf(file()); }
   void store(const std::string& text) const {
     fs::create_directories(file().parent_path());
     std::ofstream(file()) << text;

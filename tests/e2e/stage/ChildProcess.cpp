@@ -40,13 +40,6 @@ void printInto(const std::string& file) {
   ::dup2(output, STDERR_FILENO);
 }
 
-/// "" where there is none, or none any more: what is said of a process goes with it.
-std::string textOf(const std::string& path) {
-  std::ostringstream text;
-  text << std::ifstream(path).rdbuf();
-  return text.str();
-}
-
 struct ProcessStatus {
   std::string name;
   char state = 'X';
@@ -127,6 +120,12 @@ std::optional<int> ChildProcess::waitForEnd() {
 void ChildProcess::signal(int number) const {
   if (!status_)
     ::kill(id_, number);
+}
+
+std::string textOf(const std::string& path) {
+  std::ostringstream text;
+  text << std::ifstream(path).rdbuf();
+  return text.str();
 }
 
 std::vector<pid_t> descendants(pid_t ancestor, const std::string& name) {

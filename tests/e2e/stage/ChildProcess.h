@@ -38,6 +38,9 @@ class ChildProcess {
   std::optional<int> status_;
 };
 
+/// A file's text; "" where there is none, or none any more: what is said of a process goes with it.
+std::string textOf(const std::string& path);
+
 /// The running processes below `ancestor` whose name, as far as the system keeps it (15 letters), is `name`.
 std::vector<pid_t> descendants(pid_t ancestor, const std::string& name);
 

@@ -6,8 +6,6 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace quorvel::e2e {
@@ -207,8 +205,7 @@ void Client::killWebProcess() const {
 }
 
 std::string Client::said() const {
-  std::ifstream file(outputFile());
-  return {std::istreambuf_iterator<char>(file), {}};
+  return textOf(outputFile());
 }
 
 } // namespace quorvel::e2e
