@@ -18,6 +18,7 @@ set(quorvel_library_glibmm PkgConfig::GLIBMM)
 set(quorvel_library_giomm PkgConfig::GIOMM)
 set(quorvel_library_gtkmm PkgConfig::GTKMM)
 set(quorvel_library_webkitgtk PkgConfig::WEBKIT)
+set(quorvel_library_epoxy PkgConfig::EPOXY)
 
 set(quorvel_room_table "${PROJECT_SOURCE_DIR}/src/rooms.txt")
 set_property(DIRECTORY "${PROJECT_SOURCE_DIR}" APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${quorvel_room_table}")

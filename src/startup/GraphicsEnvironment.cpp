@@ -1,6 +1,7 @@
 #include "startup/GraphicsEnvironment.h"
 
 #include <algorithm>
+#include <epoxy/egl.h>
 #include <filesystem>
 #include <gtk/gtk.h>
 #include <utility>
@@ -31,6 +32,18 @@ void GraphicsEnvironment::apply() const {
     g_setenv(name.c_str(), value.c_str(), false);
 }
 
+// EGL looks for drivers once in a process, at the first question, and this one comes while it is told of
+// none. The engine's own would come in the middle of the start, and load a driver for nothing: it gets no
+// display from EGL, and needs none while it puts no pages together here.
+void GraphicsEnvironment::spareDriver() const {
+  constexpr auto* drivers = "__EGL_VENDOR_LIBRARY_FILENAMES";
+  if (hasRenderNode() || !isGlOff() || g_getenv(drivers) || !epoxy_has_egl())
+    return;
+  g_setenv(drivers, "/dev/null", false);
+  eglQueryString(EGL_NO_DISPLAY, EGL_EXTENSIONS);
+  g_unsetenv(drivers);
+}
+
 void GraphicsEnvironment::spareAnimations() const {
   if (!hasRenderNode())
     g_object_set(gtk_settings_get_default(), "gtk-overlay-scrolling", FALSE, nullptr);
@@ -47,6 +60,14 @@ std::vector<GraphicsEnvironment::Variable> GraphicsEnvironment::withoutGraphicsH
           {"GSK_RENDERER", "cairo"},
           {"WEBKIT_DISABLE_COMPOSITING_MODE", "1"},
           {"MESA_SHADER_CACHE_DISABLE", "true"}};
+}
+
+/// Whether the user has left it so.
+bool GraphicsEnvironment::isGlOff() const {
+  return std::ranges::all_of(withoutGraphicsHardware(), [](const Variable& variable) {
+    const auto* value = g_getenv(variable.name.c_str());
+    return value && value == variable.value;
+  });
 }
 
 bool GraphicsEnvironment::hasRenderNode() const {

@@ -24,12 +24,16 @@ class GraphicsEnvironment {
   /// Sets them for this process and those it starts, except where the user has set one to anything already.
   /// To be called before the toolkit starts and before there is a second thread.
   void apply() const;
+  /// Keeps the emulating driver, with its compiler, out of this process, which draws nothing by it where
+  /// there is no graphics hardware; what it starts finds it all the same. To be called between the two.
+  void spareDriver() const;
   /// Once the toolkit has started: what is animated nowhere but on graphics hardware. Overlay scrollbars fade
   /// for seconds after each page, at full frame rate.
   void spareAnimations() const;
 
  private:
   std::vector<Variable> withoutGraphicsHardware() const;
+  bool isGlOff() const;
   bool hasRenderNode() const;
   bool hasNvidiaDriver() const;
 

@@ -16,14 +16,29 @@ void keepDeveloperToolsShut() {
   windows->enable_debugging = +[](GtkWindow*, gboolean) -> gboolean { return FALSE; };
 }
 
+/// As it starts the toolkit would read its light theme, in which no window of ours is drawn; the right one is
+/// read when it is asked to be dark. What the user names is the user's.
+bool startWithoutTheme() {
+  constexpr auto* theme = "GTK_THEME";
+  const bool isUsers = g_getenv(theme);
+  g_setenv(theme, "Empty", false);
+  const bool hasStarted = gtk_init_check();
+  if (hasStarted)
+    gtk_settings_get_default();
+  if (!isUsers)
+    g_unsetenv(theme);
+  return hasStarted;
+}
+
 } // namespace
 
 bool startToolkit(const ProgramName& program) {
   const GraphicsEnvironment graphics;
   graphics.apply();
+  graphics.spareDriver();
   keepUsableBuses();
   g_set_prgname(program.identifier); // by which a desktop finds the icon of the window
-  if (gtk_init_check()) {
+  if (startWithoutTheme()) {
     graphics.spareAnimations();
     keepDeveloperToolsShut();
     return true;

@@ -1,10 +1,13 @@
 #include "e2e/stage/ClientTest.h"
 
+#include <fstream>
 #include <regex>
 #include <unistd.h>
 
 namespace quorvel::e2e {
 namespace {
+
+namespace fs = std::filesystem;
 
 class StartTest : public ClientTest {
  protected:
@@ -38,6 +41,35 @@ TEST_F(StartTest, TheFirstRequestIsTheAgentPageAndNamesTheClient) {
   EXPECT_EQ("https://" + first.host, origin);
   EXPECT_EQ(first.target, agentPage);
   EXPECT_THAT(first.userAgent, EndsWith("Quorvel Desktop"));
+}
+
+TEST_F(StartTest, ADesktopThatIsDarkByItselfGetsTheSameWindow) {
+  start();
+  const auto usual = client().minimumSize();
+  quit();
+  fs::create_directories(stage.config() / "gtk-4.0");
+  std::ofstream(stage.config() / "gtk-4.0" / "settings.ini") << "[Settings]\n"
+                                                                "gtk-application-prefer-dark-theme=1\n";
+  start();
+  EXPECT_EQ(client().minimumSize(), usual);
+}
+
+/// Whether any driver for EGL has been loaded.
+bool hasDriver(pid_t process) {
+  return textOf("/proc/" + std::to_string(process) + "/maps").find("/libEGL_") != std::string::npos;
+}
+
+TEST_F(StartTest, WithoutGraphicsHardwareOnlyThePagesProcessLoadsADriver) {
+  const fs::path nodes = "/dev/dri";
+  const bool isThereHardware =
+      fs::exists(nodes) && std::ranges::any_of(fs::directory_iterator(nodes), [](const auto& node) {
+        return node.path().filename().string().starts_with("renderD");
+      });
+  start();
+  EXPECT_EQ(hasDriver(client().process().id()), isThereHardware);
+  const auto pages = descendants(client().process().id(), "WebKitWebProces");
+  ASSERT_THAT(pages, SizeIs(1));
+  EXPECT_TRUE(hasDriver(pages.front()));
 }
 
 } // namespace
