@@ -63,7 +63,6 @@ class WebView::Engine {
   }
   std::optional<std::string> addressOfAsker() const;
   bool isLoading() const { return webkit_web_view_is_loading(view()) && !watchdog_.hasGivenUp(); }
-  bool hasBegun() const { return hasBegun_; }
 
  private:
   void watchState();
@@ -92,7 +91,6 @@ class WebView::Engine {
   OncePerGesture prints_;
   bool isOwnerInPage_ = false;   // rather than at the last command
   bool isByGesture_ = false;     // the navigation under way
-  bool hasBegun_ = false;        // any page, ever
   bool isWindowAwaited_ = false; // which the page on screen has asked for
   bool isAskedByPage_ = false;   // for what the owner of the view is told at this moment
 };
@@ -138,7 +136,6 @@ void WebView::Engine::noteGesture() {
 
 void WebView::Engine::noteEvent(WebKitLoadEvent event) {
   // The first word of a page: its process is there, and nothing of it is on the screen yet.
-  hasBegun_ = true;
   sandbox_.look();
   if (event == WEBKIT_LOAD_COMMITTED && addressOfAsker() == addressOf(view()))
     isWindowAwaited_ = false;
@@ -265,10 +262,6 @@ bool WebView::canGoForward() const {
 
 bool WebView::isLoading() const {
   return engine_->isLoading();
-}
-
-bool WebView::hasBegun() const {
-  return engine_->hasBegun();
 }
 
 std::string WebView::address() const {

@@ -59,8 +59,6 @@ class WebView {
   bool canGoBack() const;
   bool canGoForward() const;
   bool isLoading() const;
-  /// Whether a page has ever begun to load: its process is there, and needs nothing more to ask the network.
-  bool hasBegun() const;
   /// The address on screen; empty where there is none, as after the page's process has died.
   std::string address() const;
   /// The same into `address`, which stays as it is where there is none. A page's address may be megabytes

@@ -1,7 +1,6 @@
 #include "programs/client/MainWindow.h"
 
 #include "client/ContentView.h"
-#include "client/DesktopBrowserModel.h"
 #include "commands/PrimaryMenu.h"
 #include "commands/titleBar.h"
 #include "programs/client/CommandMenu.h"
@@ -12,8 +11,6 @@
 
 namespace quorvel {
 namespace {
-
-constexpr unsigned longestEmpty = 400; // ms
 
 /// As large as the client will be, and as dark.
 Gtk::Widget* emptyClient() {
@@ -41,30 +38,16 @@ MainWindow::MainWindow(DesktopBrowserModel& browser, Gtk::Application& applicati
 }
 
 MainWindow::~MainWindow() {
-  beginning_.disconnect();
   pause_.disconnect();
 }
 
 void MainWindow::on_map() {
   Gtk::ApplicationWindow::on_map();
-  if (!std::exchange(isEmpty_, false))
-    return;
-  beginning_ =
-      browser_.objectWillChange().connect(sigc::mem_fun(*this, &MainWindow::showClientOnceAPageHasBegun));
-  pause_ = Glib::signal_timeout().connect(sigc::mem_fun(*this, &MainWindow::showClient), longestEmpty);
-  showClientOnceAPageHasBegun();
-}
-
-void MainWindow::showClientOnceAPageHasBegun() {
-  if (!browser_.webView().hasBegun())
-    return;
-  beginning_.disconnect();
-  pause_.disconnect();
-  pause_ = Glib::signal_idle().connect(sigc::mem_fun(*this, &MainWindow::showClient), Glib::PRIORITY_LOW);
+  if (std::exchange(isEmpty_, false))
+    pause_ = Glib::signal_idle().connect(sigc::mem_fun(*this, &MainWindow::showClient), Glib::PRIORITY_LOW);
 }
 
 bool MainWindow::showClient() {
-  beginning_.disconnect();
   auto* client = Gtk::make_managed<ContentView>(browser_);
   set_child(*client);
   client->child_focus(Gtk::DirectionType::TAB_FORWARD); // as of a window that appears with it

@@ -10,8 +10,8 @@ namespace quorvel {
 /// The program's one window: the client below a slim header bar with both menus. No smaller than the client's
 /// least size. Model, application and commands have to outlive it.
 ///
-/// When it appears it is empty for a moment: the client is made in a pause of the main loop once a page has
-/// begun to load, whose process has main loop and processors to itself until then.
+/// When it appears it is empty for a moment: the client is made in the pauses of the main loop, which answers
+/// the page's process first.
 class MainWindow : public Gtk::ApplicationWindow {
  public:
   MainWindow(DesktopBrowserModel& browser, Gtk::Application& application, const Commands& commands);
@@ -24,13 +24,11 @@ class MainWindow : public Gtk::ApplicationWindow {
   void on_map() override;
 
  private:
-  void showClientOnceAPageHasBegun();
   bool showClient();
 
   DesktopBrowserModel& browser_;
   bool isEmpty_ = true;
-  sigc::connection beginning_; // of the first page
-  sigc::connection pause_;     // in which the client is made
+  sigc::connection pause_; // in which the client is made
 };
 
 } // namespace quorvel

@@ -2,16 +2,11 @@
 
 #include "client/ContentView.h"
 #include "commands/PrimaryMenu.h"
-#include "engine/SystemProcess.h"
 #include "programs/client/CommandMenu.h"
 #include "programs/client/habits.h"
 #include "support/RealInput.h"
 #include "support/RightToLeft.h"
 #include "ui/programs/client/MainWindowFixture.h"
-
-#include <csignal>
-#include <set>
-#include <stdexcept>
 
 namespace quorvel {
 namespace {
@@ -83,34 +78,6 @@ TEST_F(MainWindowTest, TheClientIsMadeOnceAndLaterThanTheWindowAppears) {
   fresh.present();
   settle();
   EXPECT_THAT(tests::all<ContentView>(fresh), ElementsAre(client));
-  fresh.close();
-}
-
-/// The number of the page's process that is not among the known ones, once there is one. The main loop rests.
-pid_t nextPage(const std::set<pid_t>& known) {
-  const auto deadline = std::chrono::steady_clock::now() + tests::patience;
-  while (std::chrono::steady_clock::now() < deadline)
-    for (const auto& page : SystemProcess::ourselves().descendants("WebKitWebProcess"))
-      if (!known.contains(page.id()))
-        return page.id();
-  throw std::runtime_error("no page has been started");
-}
-
-TEST_F(MainWindowTest, TheClientWaitsForThePageToBeginButNotForLong) {
-  std::set<pid_t> known;
-  for (const auto& page : SystemProcess::ourselves().descendants("WebKitWebProcess"))
-    known.insert(page.id());
-  DesktopBrowserModel other({.folders = {folder / "other" / "data", folder / "other" / "cache"}});
-  const auto page = nextPage(known);
-  ::kill(page, SIGSTOP);
-  MainWindow fresh(other, *application, *commands);
-  const auto start = std::chrono::steady_clock::now();
-  fresh.present();
-  EXPECT_TRUE(tests::eventually([&] { return !tests::all<ContentView>(fresh).empty(); }));
-  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(400));
-  EXPECT_FALSE(other.webView().hasBegun());
-  ::kill(page, SIGCONT);
-  EXPECT_TRUE(tests::eventually([&] { return other.webView().hasBegun(); }));
   fresh.close();
 }
 
