@@ -38,7 +38,7 @@ bool endsWithoutPage(WebKitResponsePolicyDecision* response) {
 
 CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner)
     : view_(view), owner_(std::move(owner)), command_({startTimer, [this] { ask(); }, [this] { insist(); }}),
-      network_(std::move(startTimer), [this] { return isUnderWay(); }), gauge_(view_) {
+      network_(std::move(startTimer), [this] { return isUnderWay(); }), gauge_(view_), wayBack_(view_) {
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, CommandRunner* self) { self->noteEvent(event); };
   g_signal_connect(view_, "load-changed", G_CALLBACK(onEvent), this);
@@ -56,6 +56,7 @@ CommandRunner::~CommandRunner() {
 
 void CommandRunner::load(const std::string& address) {
   requested_ = address;
+  wayBack_.noteOwner();
   carryOut({WEBKIT_NAVIGATION_TYPE_OTHER, [this] { tellToLoad(); }});
 }
 
@@ -79,7 +80,30 @@ void CommandRunner::reload() {
 
 void CommandRunner::goBack() {
   auto* history = webkit_web_view_get_back_forward_list(view_);
-  goTo(webkit_back_forward_list_get_back_item(history), webkit_web_view_go_back);
+  if (auto* origin = wayBack_.target())
+    leaveFor(origin);
+  else
+    goTo(webkit_back_forward_list_get_back_item(history), webkit_web_view_go_back);
+}
+
+/// A page that has filled the history is not asked to make way: it would go on.
+void CommandRunner::leaveFor(WebKitBackForwardListItem* origin) {
+  aimAt(origin);
+  const Wish wish{WEBKIT_NAVIGATION_TYPE_BACK_FORWARD, [this] { goToOrigin(); }};
+  if (wayBack_.isLost())
+    overrule([&] { carryOut(wish); });
+  else
+    carryOut(wish);
+}
+
+void CommandRunner::goToOrigin() {
+  if (wayBack_.isLost())
+    aimAt(wayBack_.restore());
+  goToTarget();
+}
+
+void CommandRunner::aimAt(WebKitBackForwardListItem* item) {
+  target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(item)));
 }
 
 void CommandRunner::goForward() {
@@ -90,7 +114,7 @@ void CommandRunner::goForward() {
 void CommandRunner::goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*)) {
   if (!neighbour)
     return;
-  target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(neighbour)));
+  aimAt(neighbour);
   Wish wish{WEBKIT_NAVIGATION_TYPE_BACK_FORWARD, [this] { goToTarget(); }};
   wish.begin = [this, go, onScreen = addressOf(view_)] {
     go(view_);
@@ -116,7 +140,7 @@ void CommandRunner::noteTarget(const std::string& address) {
   for (const GList* each = items; each; each = each->next)
     if (auto* item = WEBKIT_BACK_FORWARD_LIST_ITEM(each->data);
         address == webkit_back_forward_list_item_get_uri(item)) {
-      target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(item)));
+      aimAt(item);
       return;
     }
 }

@@ -4,6 +4,7 @@
 #include "engine/GObjectPointer.h"
 #include "engine/NetworkWatch.h"
 #include "engine/OwnersCommand.h"
+#include "engine/WayBack.h"
 
 #include <functional>
 #include <string>
@@ -44,6 +45,8 @@ class CommandRunner : public sigc::trackable {
   void noteResponse(WebKitResponsePolicyDecision* response);
   /// What was asked for is not waited for any longer.
   void giveUp();
+  /// The owner has turned to the page.
+  void noteGesture() { wayBack_.noteOwner(); }
 
  private:
   /// What was asked for, and as what the engine will ask back.
@@ -55,6 +58,9 @@ class CommandRunner : public sigc::trackable {
 
   bool isBeyondAsking() const;
   void goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*));
+  void leaveFor(WebKitBackForwardListItem* origin);
+  void goToOrigin();
+  void aimAt(WebKitBackForwardListItem* item);
   void goToTarget();
   void noteTarget(const std::string& address);
   void carryOut(Wish wish);
@@ -88,6 +94,7 @@ class CommandRunner : public sigc::trackable {
   OwnersCommand command_;
   NetworkWatch network_;
   FloodGauge gauge_;
+  WayBack wayBack_;
   GObjectPointer<GCancellable> question_{g_cancellable_new()};
 };
 

@@ -130,6 +130,7 @@ void WebView::Engine::obey(PageKeys::Key key) {
 
 void WebView::Engine::noteGesture() {
   isOwnerInPage_ = true;
+  commands_.noteGesture();
   renew();
   prints_.renew();
 }

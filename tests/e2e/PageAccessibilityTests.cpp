@@ -18,5 +18,24 @@ TEST_F(PageAccessibilityTest, ThePageIsReadToItsUserWhereTheToolkitHasAPlaceForI
     EXPECT_THAT(headings(), IsEmpty());
 }
 
+TEST_F(PageAccessibilityTest, WhatIsPressedInThePageByEarIsTheUsersOwnStepInTheHistory) {
+  stage.servePage("support.html",
+                  "<script>let n = 0</script>"
+                  "<button onclick=\"history.pushState(null, '', '/step/' + ++n)\">Next</button>");
+  start();
+  client().press("Support");
+  waitForPage("/support.html");
+  if (gtk_get_minor_version() < 14) {
+    EXPECT_FALSE(client().control("Next"));
+    return;
+  }
+  for (const char* step : {"/step/1", "/step/2"}) {
+    client().press("Next");
+    expectAddress(origin + step);
+  }
+  client().press("Back");
+  expectAddress(origin + "/step/1");
+}
+
 } // namespace
 } // namespace quorvel::e2e

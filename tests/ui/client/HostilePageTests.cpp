@@ -80,6 +80,30 @@ TEST_F(HostilePageTest, BackLeadsOutOfAHangingPageAndForwardToItAgain) {
   expectArrival("/hostile.html", "Recovered");
 }
 
+TEST_F(HostilePageTest, BackLeadsOutOfAPageThatHasFilledTheHistory) {
+  show("/pricing.html");
+  show("/agent.html");
+  showPageThat("for (let i = 0; i < 300; ++i) location.hash = i");
+  ASSERT_TRUE(tests::eventually([&] { return model->currentURLString->ends_with("#299"); }));
+  model->goBack();
+  expectArrival("/agent.html", "Agent");
+  model->goBack();
+  expectArrival("/pricing.html", "Pricing");
+  EXPECT_FALSE(model->canGoBack);
+}
+
+TEST_F(HostilePageTest, ForwardLeadsToAPageThatHadFilledTheHistoryAndBackOutAgain) {
+  show("/agent.html");
+  showPageThat("for (let i = 0; i < 300; ++i) location.hash = i");
+  ASSERT_TRUE(tests::eventually([&] { return model->currentURLString->ends_with("#299"); }));
+  model->goBack();
+  expectArrival("/agent.html", "Agent");
+  model->goForward();
+  expectArrival("/hostile.html#299", "Hostile");
+  model->goBack();
+  expectArrival("/agent.html", "Agent");
+}
+
 /// Stops every process of the engine that runs a program of this name, as long as it exists. One that stayed
 /// stopped would outlive the test.
 class StoppedProcesses {
@@ -199,6 +223,9 @@ INSTANTIATE_TEST_SUITE_P(
         Trick{"Replacements", always("location.replace('/elsewhere.html?' + n++)")},
         Trick{"Fragments", always("location.hash = n++")},
         Trick{"States", always("history.replaceState({}, '', '?' + n++)")},
+        Trick{"Entries", always("history.pushState({}, '', '?' + n++)")},
+        Trick{"EntriesOfAFrame", "frame = document.body.appendChild(document.createElement('iframe'));" +
+                                     always("frame.src = '/elsewhere.html?' + n++")},
         Trick{"Reloads", always("location.reload()")}, Trick{"Forms", always("form.submit()")},
         Trick{"Links", always("link.click()")}, Trick{"Stops", always("window.stop()")},
         Trick{"WindowsOfNothing", always("open('about:blank'); open('javascript:1')")},
