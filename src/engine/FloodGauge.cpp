@@ -6,8 +6,12 @@
 namespace quorvel {
 namespace {
 
-constexpr std::chrono::milliseconds longest{500}; // that an honest page takes
 constexpr std::chrono::seconds moment{3};
+// Within a moment no honest page takes longer than this altogether.
+constexpr std::chrono::milliseconds longest{500};
+// Up to this any page may go on speaking; and with so few words, which wait for a program that is starting.
+constexpr std::chrono::milliseconds unnoticed{100};
+constexpr int wordsOfALoad = 10;
 
 } // namespace
 
@@ -28,11 +32,24 @@ FloodGauge::~FloodGauge() {
 }
 
 bool FloodGauge::isFlooded() const {
+  return lately().wait > longest;
+}
+
+FloodGauge::Turn FloodGauge::lately() const {
   const auto now = Clock::now();
-  return waitsSince_ ? now - *waitsSince_ > longest : lastWait_ > longest && now - lastTurn_ < moment;
+  Turn all{now, waitsSince_ ? now - *waitsSince_ : Clock::duration(), words_};
+  for (const auto& each : turns_)
+    if (now - each.at < moment) {
+      all.wait += each.wait;
+      all.words += each.words;
+    }
+  return all;
 }
 
 void FloodGauge::noteWord() {
+  ++words_;
+  if (const auto all = lately(); all.wait > unnoticed && all.words > wordsOfALoad)
+    brake_.hold();
   if (waitsSince_)
     return;
   waitsSince_ = Clock::now();
@@ -40,8 +57,11 @@ void FloodGauge::noteWord() {
 }
 
 void FloodGauge::noteTurn() {
-  lastTurn_ = Clock::now();
-  lastWait_ = lastTurn_ - *std::exchange(waitsSince_, std::nullopt);
+  brake_.release();
+  const auto now = Clock::now();
+  turns_.push_back({now, now - *std::exchange(waitsSince_, std::nullopt), std::exchange(words_, 0)});
+  while (now - turns_.front().at >= moment)
+    turns_.pop_front();
 }
 
 } // namespace quorvel

@@ -1,8 +1,10 @@
 #include "engine/NetworkWatch.h"
 #include "engine/OwnersCommand.h"
+#include "engine/PageBrake.h"
 #include "engine/SystemProcess.h"
 #include "ui/client/ModelTest.h"
 
+#include <algorithm>
 #include <csignal>
 #include <optional>
 
@@ -175,6 +177,42 @@ TEST_F(HostilePageTest, APageThatMerelyComputesIsLeftAlone) {
   EXPECT_FALSE(timer.isRunning(OwnersCommand::patience)) << "the owner has asked for nothing";
   EXPECT_THAT(SystemProcess::ourselves().descendants("WebKitWebProcess"), Not(IsEmpty()));
   EXPECT_EQ(server.count("/hostile.html"), 1);
+}
+
+bool areStopped(const std::vector<SystemProcess>& processes) {
+  return !processes.empty() && std::ranges::all_of(processes, &SystemProcess::isStopped);
+}
+
+/// What is seen of a page whenever the program has heard a word of it.
+struct Hearing {
+  explicit Hearing(WebKitWebView* heardView) : view(heardView) {
+    const auto onWord = +[](Hearing* self) {
+      ++self->words;
+      self->hasWaited |= areStopped(SystemProcess::ourselves().descendants("WebKitWebProcess"));
+    };
+    g_signal_connect_swapped(view, "notify::uri", G_CALLBACK(onWord), this);
+  }
+  ~Hearing() { g_signal_handlers_disconnect_by_data(view, this); }
+  Hearing(const Hearing&) = delete;
+  Hearing& operator=(const Hearing&) = delete;
+
+  WebKitWebView* view;
+  int words = 0;
+  bool hasWaited = false;
+};
+
+TEST_F(HostilePageTest, APageThatSaysTooMuchIsHeardLittleByLittle) {
+  showPageThat(always("for (let i = 0; i < 100; ++i) location.hash = n++ + 'x'.repeat(1e6)"));
+  Hearing hearing(webView());
+  EXPECT_TRUE(tests::eventually([&] { return hearing.hasWaited; }));
+  EXPECT_TRUE(tests::eventually([&, before = hearing.words] { return hearing.words > before + 20; }));
+}
+
+TEST_F(HostilePageTest, AProcessThatSomebodyElseHasStoppedStaysSo) {
+  show("/agent.html");
+  const StoppedProcesses stopped("WebKitWebProcess");
+  PageBrake().hold();
+  EXPECT_TRUE(areStopped(SystemProcess::ourselves().descendants("WebKitWebProcess")));
 }
 
 struct Trick {
