@@ -1,6 +1,7 @@
 #include "engine/popups.h"
 
 #include "engine/GObjectPointer.h"
+#include "engine/popupPlace.h"
 #include "engine/shortened.h"
 
 namespace quorvel {
@@ -127,6 +128,8 @@ void follow(GtkPopover* popup) {
   cutIn(popup);
   fitIn(popup);
   g_signal_connect(popup, "notify::child", G_CALLBACK(cutIn), nullptr);
+  if (!GTK_IS_POPOVER_MENU(popup)) // which its owner has opened where the pointer is
+    keepInView(popup);
   g_signal_connect(popup, "show", G_CALLBACK(fitIn), nullptr); // suggestions are there only now
 }
 

@@ -81,6 +81,23 @@ class ContentViewTest : public ModelTest, protected tests::ContentWindow {
         titles.push_back(tests::texts(*row).front());
     return titles;
   }
+  /// The bubble or list that the page shows beside a field.
+  GtkPopover* popup() {
+    auto* child = gtk_widget_get_last_child(GTK_WIDGET(webView()));
+    return GTK_IS_POPOVER(child) && gtk_widget_get_mapped(child) ? GTK_POPOVER(child) : nullptr;
+  }
+  /// Where on the window's surface a popup begins, and where the address ends.
+  static double topOf(GtkPopover* popup) {
+    double left = 0, top = 0;
+    gtk_native_get_surface_transform(GTK_NATIVE(popup), &left, &top);
+    return top + gdk_popup_get_position_y(GDK_POPUP(gtk_native_get_surface(GTK_NATIVE(popup))));
+  }
+  double addressBottom() {
+    double left = 0, top = 0;
+    gtk_native_get_surface_transform(GTK_NATIVE(window->gobj()), &left, &top);
+    const auto address = boundsIn(*window, the<AddressField>());
+    return top + address.get_y() + address.get_height();
+  }
 };
 
 TEST_F(ContentViewTest, EveryTextIsThereInItsOrder) {
@@ -522,13 +539,21 @@ TEST_F(ContentViewTest, AnAddressOfAMegabyteIsCutBeforeItIsLaidOut) {
 TEST_F(ContentViewTest, AMegabyteInABubbleBesideAFieldIsCutBeforeItIsLaidOut) {
   runScript("const field = document.createElement('input'); document.body.append(field);"
             "field.setCustomValidity('ä'.repeat(1e6)); field.reportValidity(); 0");
-  const auto bubble = [&] {
-    auto* child = gtk_widget_get_last_child(GTK_WIDGET(webView()));
-    return GTK_IS_POPOVER(child) && gtk_widget_get_visible(child) ? gtk_popover_get_child(GTK_POPOVER(child))
-                                                                  : nullptr;
-  };
-  ASSERT_TRUE(tests::eventually([&] { return bubble() != nullptr; }));
-  EXPECT_EQ(Glib::ustring(gtk_label_get_text(GTK_LABEL(bubble()))), Glib::ustring(500, gunichar{0xe4}) + "…");
+  ASSERT_TRUE(tests::eventually([&] { return popup() != nullptr; }));
+  EXPECT_EQ(Glib::ustring(gtk_label_get_text(GTK_LABEL(gtk_popover_get_child(popup())))),
+            Glib::ustring(500, gunichar{0xe4}) + "…");
+}
+
+TEST_F(ContentViewTest, NoBubbleOfAPageLiesOverTheAddressField) {
+  runScript("document.body.innerHTML = '<input id=field style=\"position: fixed\">';"
+            "field.setCustomValidity('https://elsewhere.example'); 0");
+  for (const std::string top : {"-300", "-100", "0", "40"}) {
+    runScript("field.blur(); 0");
+    ASSERT_TRUE(tests::eventually([&] { return popup() == nullptr; }));
+    runScript("field.style.top = '" + top + "px'; field.reportValidity(); 0");
+    ASSERT_TRUE(tests::eventually([&] { return popup() != nullptr; })) << top;
+    EXPECT_GE(topOf(popup()), addressBottom()) << top;
+  }
 }
 
 TEST_F(ContentViewTest, BackAndForwardAreEnabledAsTheHistoryAllowsAndTheRestAlways) {
