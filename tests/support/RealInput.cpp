@@ -47,6 +47,12 @@ class QuickRepeat {
   unsigned delay_ = 0, interval_ = 0; // of the display, in milliseconds
 };
 
+/// By way of a place beside it: a pointer that is there already would not be heard of.
+void movePointer(::Window window, int x, int y) {
+  for (const int each : {x + 1, x})
+    xdotool({"mousemove", "--window", std::to_string(window), std::to_string(each), std::to_string(y)});
+}
+
 } // namespace
 
 void pointAt(Gtk::Widget& widget) {
@@ -55,8 +61,7 @@ void pointAt(Gtk::Widget& widget) {
   widget.translate_coordinates(dynamic_cast<Gtk::Widget&>(*native), widget.get_width() / 2.0,
                                widget.get_height() / 2.0, x, y);
   native->get_surface_transform(surfaceX, surfaceY);
-  xdotool({"mousemove", "--window", std::to_string(xWindow(*native)),
-           std::to_string(static_cast<int>(x + surfaceX)), std::to_string(static_cast<int>(y + surfaceY))});
+  movePointer(xWindow(*native), static_cast<int>(x + surfaceX), static_cast<int>(y + surfaceY));
 }
 
 void clickOn(Gtk::Widget& widget) {
