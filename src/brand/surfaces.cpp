@@ -7,12 +7,12 @@
 namespace quorvel {
 
 Gtk::Widget* surface(const std::string& cssClass, Gtk::Widget* content) {
-  auto* ground = Gtk::make_managed<HStack>(0);
+  auto* ground = Gtk::make_managed<HStack>(0, VerticalAlignment::fill);
   ground->add_css_class(cssClass);
   // The content fills its ground, but the ground is as keen on width as the content was.
   ground->set_hexpand(content->compute_expand(Gtk::Orientation::HORIZONTAL));
   content->set_hexpand(true);
-  ground->append(*content);
+  ground->add({content});
   return ground;
 }
 

@@ -53,7 +53,7 @@ void AddressField::Line::measure_vfunc(Gtk::Orientation orientation, int, int& m
   minimumBaseline = naturalBaseline = -1;
   const bool isHorizontal = orientation == Gtk::Orientation::HORIZONTAL;
   minimum = natural = 0;
-  for (const auto* label : visibleChildren()) {
+  for (const auto* label : visibleChildren(*this)) {
     const auto request = isHorizontal ? widthRequest(*label) : heightRequest(*label, -1);
     minimum = isHorizontal ? minimum + request.minimum : std::max(minimum, request.minimum);
     natural = isHorizontal ? natural + request.natural : std::max(natural, request.natural);

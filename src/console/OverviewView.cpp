@@ -51,25 +51,28 @@ Gtk::Widget* heroCopy(WorkspaceStore& store) {
 
 Gtk::Widget* hero(WorkspaceStore& store) {
   auto* copy = heroCopy(store);
-  copy->set_valign(Gtk::Align::CENTER);
-  auto* forms = Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
-      {Orientation::HORIZONTAL, 28, {copy, hspacer(24), Gtk::make_managed<BrandMark>(104)}},
-      {Orientation::HORIZONTAL, defaultSpacing, {copy, hspacer(), Gtk::make_managed<BrandMark>(74)}}});
+  const auto row = [copy](int spacing, Gtk::Widget* between, int mark) {
+    return Arrangement{Orientation::HORIZONTAL,
+                       spacing,
+                       {copy, between, Gtk::make_managed<BrandMark>(mark)},
+                       Gtk::Align::CENTER};
+  };
+  auto* forms = Gtk::make_managed<FirstThatFits>(
+      std::vector{row(28, hspacer(24), 104), row(defaultSpacing, hspacer(), 74)});
   return quorvelCard(stretched(forms), 24);
 }
 
 /// The cards' texts wrap and shorten, so what they happen to say does not decide how the cards are arranged.
 Gtk::Widget* workArea(WorkspaceStore& store) {
   const auto column = [](int minimumWidth, Gtk::Widget* content) {
-    auto* frame = Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = minimumWidth}, *content);
-    frame->set_valign(Gtk::Align::START);
-    return stretched(frame);
+    return stretched(Gtk::make_managed<Frame>(Frame::Size{.minimumWidth = minimumWidth}, *content));
   };
   auto* thread = column(420, Gtk::make_managed<CommandThreadCard>([&store] { store.createRequest(); }));
   auto* news = column(
       340, vstack(18, {Gtk::make_managed<RequestQueueCard>(store), Gtk::make_managed<ActivityCard>(store)}));
-  return stretched(Gtk::make_managed<FirstThatFits>(std::vector<FirstThatFits::Form>{
-      {Orientation::HORIZONTAL, 18, {thread, news}}, {Orientation::VERTICAL, 18, {thread, news}}}));
+  const Arrangement besideEachOther{Orientation::HORIZONTAL, 18, {thread, news}, Gtk::Align::START};
+  const Arrangement belowEachOther{Orientation::VERTICAL, 18, {thread, news}};
+  return stretched(Gtk::make_managed<FirstThatFits>(std::vector{besideEachOther, belowEachOther}));
 }
 
 } // namespace

@@ -17,7 +17,7 @@ int AdaptiveGrid::columnCount(int width) const {
 
 int AdaptiveGrid::leastColumnWidth() const {
   int least = minimumColumnWidth_;
-  for (const auto* cell : visibleChildren())
+  for (const auto* cell : visibleChildren(*this))
     least = std::max(least, widthRequest(*cell).minimum);
   return least;
 }
@@ -25,7 +25,7 @@ int AdaptiveGrid::leastColumnWidth() const {
 /// Calls `placeRow(cells, columns, y, height)` for every row and returns the height of all rows together.
 template <class PlaceRow>
 int AdaptiveGrid::forEachRow(int width, const PlaceRow& placeRow) const {
-  const auto cells = visibleChildren();
+  const auto cells = visibleChildren(*this);
   const auto perRow = static_cast<std::size_t>(columnCount(width));
   std::vector<Column> columns;
   for (std::size_t i = 0; i < perRow; ++i)

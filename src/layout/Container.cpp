@@ -26,17 +26,17 @@ void Container::place(Gtk::Widget& child, Gtk::Widget* previous) {
   insertAfter(*this, child, previous);
 }
 
-std::vector<Gtk::Widget*> Container::visibleChildren() const {
+Gtk::SizeRequestMode Container::get_request_mode_vfunc() const {
+  return Gtk::SizeRequestMode::HEIGHT_FOR_WIDTH;
+}
+
+std::vector<Gtk::Widget*> visibleChildren(const Gtk::Widget& parent) {
   std::vector<Gtk::Widget*> children;
-  for (auto* child = const_cast<Container*>(this)->get_first_child(); child;
+  for (auto* child = const_cast<Gtk::Widget&>(parent).get_first_child(); child;
        child = child->get_next_sibling())
     if (child->should_layout())
       children.push_back(child);
   return children;
-}
-
-Gtk::SizeRequestMode Container::get_request_mode_vfunc() const {
-  return Gtk::SizeRequestMode::HEIGHT_FOR_WIDTH;
 }
 
 void insertAfter(Gtk::Widget& parent, Gtk::Widget& child, Gtk::Widget* previous) {

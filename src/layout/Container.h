@@ -16,9 +16,6 @@ class Container : public Gtk::Widget {
   /// Puts a managed widget behind `previous`, or first where that is nothing; moves it where it is a child.
   void place(Gtk::Widget& child, Gtk::Widget* previous);
 
-  /// The children that take part in the layout, in order.
-  std::vector<Gtk::Widget*> visibleChildren() const;
-
  protected:
   Container();
   Gtk::SizeRequestMode get_request_mode_vfunc() const override;
@@ -26,6 +23,9 @@ class Container : public Gtk::Widget {
  private:
   void releaseChildren();
 };
+
+/// The children that take part in a widget's layout, in order.
+std::vector<Gtk::Widget*> visibleChildren(const Gtk::Widget& parent);
 
 /// Makes a managed widget the child of `parent` that follows `previous`, or the first where that is nothing.
 void insertAfter(Gtk::Widget& parent, Gtk::Widget& child, Gtk::Widget* previous);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/Container.h"
+#include "layout/Arrangement.h"
 
 namespace quorvel {
 
@@ -11,19 +11,11 @@ namespace quorvel {
 /// arrangement.
 class FirstThatFits : public Container {
  public:
-  /// A row or a column of some of the children, `spacing` points apart. Children of a row that expand share
-  /// what is left over; children of a column all get its width, as far as their own alignment lets them.
-  struct Form {
-    Gtk::Orientation orientation;
-    int spacing;
-    std::vector<Gtk::Widget*> members;
-  };
+  /// Takes over every widget that occurs in an arrangement. Needs one at least.
+  explicit FirstThatFits(std::vector<Arrangement> arrangements);
 
-  /// Takes over every widget that occurs in a form. Needs one form at least.
-  explicit FirstThatFits(std::vector<Form> forms);
-
-  /// Which form a container of this width shows, counted from 0.
-  std::size_t formFor(int available) const;
+  /// Which arrangement a container of this width shows, counted from 0.
+  std::size_t indexFor(int available) const;
 
  protected:
   void measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
@@ -31,9 +23,7 @@ class FirstThatFits : public Container {
   void size_allocate_vfunc(int available, int height, int baseline) override;
 
  private:
-  void place(const Form& form, int available, int height);
-
-  std::vector<Form> forms_;
+  std::vector<Arrangement> arrangements_;
 };
 
 } // namespace quorvel

@@ -100,7 +100,7 @@ int LazyGrid::expectedWidth() const {
 
 Request LazyGrid::columnWidth() const {
   Request widest;
-  for (const auto* cell : visibleChildren()) {
+  for (const auto* cell : visibleChildren(*this)) {
     const auto request = widthRequest(*cell);
     widest.minimum = std::max(widest.minimum, request.minimum);
     widest.natural = std::max(widest.natural, request.natural);
@@ -136,7 +136,7 @@ std::vector<std::size_t> LazyGrid::wantedPlaces() const {
     for (std::size_t place = line * perLine_; place < std::min((line + 1) * perLine_, count()); ++place)
       wanted.push_back(place);
   };
-  const auto cells = visibleChildren();
+  const auto cells = visibleChildren(*this);
   const auto focused = std::find(cells.begin(), cells.end(), get_focus_child()) - cells.begin();
   const auto focusedLine = static_cast<std::size_t>(focused) < places_.size()
                                ? places_[static_cast<std::size_t>(focused)] / perLine_
@@ -183,7 +183,7 @@ void LazyGrid::keepInPlace(const RowHeights& before) {
 /// list.
 template <class Visit>
 void LazyGrid::forEachLine(std::size_t perLine, const Visit& visit) const {
-  const auto cells = visibleChildren();
+  const auto cells = visibleChildren(*this);
   const auto there = std::min(cells.size(), places_.size());
   for (std::size_t first = 0, end = 0; first < there; first = end) {
     for (end = first; end < there && places_[end] / perLine == places_[first] / perLine;)

@@ -25,8 +25,10 @@ gboolean focusInOrder(GtkWidget* row, GtkDirectionType direction) {
 
 } // namespace
 
-VStack::VStack(int spacing, HorizontalAlignment alignment)
-    : Gtk::Box(Gtk::Orientation::VERTICAL, spacing), alignment_(alignment) {}
+VStack::VStack(int spacing, HorizontalAlignment alignment) : Gtk::Box(Gtk::Orientation::VERTICAL) {
+  set_layout_manager(
+      StackLayout::create(Gtk::Orientation::VERTICAL, spacing, static_cast<Gtk::Align>(alignment)));
+}
 
 void VStack::add(Children children) {
   for (auto* child : children)
@@ -34,14 +36,13 @@ void VStack::add(Children children) {
 }
 
 void VStack::place(Gtk::Widget& child, Gtk::Widget* previous) {
-  // A widget that is hidden for now computes that it does not expand, whatever it will do.
-  if (!child.get_hexpand() && !child.compute_expand(Gtk::Orientation::HORIZONTAL))
-    child.set_halign(static_cast<Gtk::Align>(alignment_));
   insertAfter(*this, child, previous);
 }
 
 HStack::HStack(int spacing, VerticalAlignment alignment)
-    : Gtk::Box(Gtk::Orientation::HORIZONTAL), alignment_(alignment), layout_(RowLayout::create(spacing)) {
+    : Gtk::Box(Gtk::Orientation::HORIZONTAL),
+      layout_(
+          StackLayout::create(Gtk::Orientation::HORIZONTAL, spacing, static_cast<Gtk::Align>(alignment))) {
   set_layout_manager(layout_);
   // The class is that of every box made in C++; they all have their children in the order of reading.
   GTK_WIDGET_GET_CLASS(gobj())->focus = focusInOrder;
@@ -52,11 +53,8 @@ void HStack::setEqualWidths() {
 }
 
 void HStack::add(Children children) {
-  for (auto* child : children) {
-    if (!child->get_vexpand() && !child->compute_expand(Gtk::Orientation::VERTICAL))
-      child->set_valign(static_cast<Gtk::Align>(alignment_));
+  for (auto* child : children)
     append(*child);
-  }
 }
 
 VStack* vstack(int spacing, Children children, HorizontalAlignment alignment) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/RowLayout.h"
+#include "layout/StackLayout.h"
 
 #include <gtkmm/box.h>
 #include <gtkmm/scrolledwindow.h>
@@ -20,27 +20,25 @@ enum class HorizontalAlignment {
   trailing = static_cast<int>(Gtk::Align::END)
 };
 enum class VerticalAlignment {
+  fill = static_cast<int>(Gtk::Align::FILL),
   top = static_cast<int>(Gtk::Align::START),
   centre = static_cast<int>(Gtk::Align::CENTER),
   bottom = static_cast<int>(Gtk::Align::END)
 };
 
-/// Children one below the other, `spacing` points apart. A child that does not expand sideways keeps its
-/// natural width and stands at `alignment`; one that does gets the whole width.
+/// Children one below the other, `spacing` points apart; the box's own properties have no effect, here and in
+/// a row. A child that does not expand sideways keeps its natural width and stands at `alignment`; one that
+/// does gets the whole width.
 class VStack : public Gtk::Box {
  public:
   explicit VStack(int spacing, HorizontalAlignment alignment = HorizontalAlignment::leading);
   void add(Children children);
   /// Puts a managed widget below `previous`, or on top where that is nothing; moves it where it is a child.
   void place(Gtk::Widget& child, Gtk::Widget* previous);
-
- private:
-  HorizontalAlignment alignment_;
 };
 
 /// Children side by side, `spacing` points apart. A child that does not expand downwards keeps its natural
-/// height and stands at `alignment`; one that does gets the whole height. The spacing is fixed here: the
-/// box's own properties have no effect. Tab follows the row.
+/// height and stands at `alignment`; one that does gets the whole height. Tab follows the row.
 class HStack : public Gtk::Box {
  public:
   explicit HStack(int spacing, VerticalAlignment alignment = VerticalAlignment::centre);
@@ -49,8 +47,7 @@ class HStack : public Gtk::Box {
   void setEqualWidths();
 
  private:
-  VerticalAlignment alignment_;
-  Glib::RefPtr<RowLayout> layout_;
+  Glib::RefPtr<StackLayout> layout_;
 };
 
 VStack* vstack(int spacing, Children children, HorizontalAlignment alignment = HorizontalAlignment::leading);

@@ -24,10 +24,7 @@ using ::testing::ElementsAre;
 /// The router beside a button that stands for the rest of the window.
 class RouterTest : public ::testing::Test {
  protected:
-  RouterTest() {
-    router_.set_hexpand(true);
-    router_.set_valign(Gtk::Align::FILL);
-  }
+  RouterTest() { router_.set_hexpand(true); }
   void select(WorkspaceSection section) {
     store_.selectedSection = section;
     drawFrame(router_);
@@ -49,7 +46,7 @@ class RouterTest : public ::testing::Test {
   Preferences preferences_{folder_.path / "preferences.ini"};
   Gtk::Button& outside_ = *Gtk::make_managed<Gtk::Button>("Outside");
   DetailView& router_ = *Gtk::make_managed<DetailView>(store_, preferences_);
-  HStack& row_ = *hstack(0, {&outside_, &router_});
+  HStack& row_ = *hstack(0, {&outside_, &router_}, VerticalAlignment::fill);
   TestWindow window_{row_, 1000, 760};
 };
 

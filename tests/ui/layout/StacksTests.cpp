@@ -61,6 +61,47 @@ TEST(Stacks, ChildrenOfARowStandAtItsAlignment) {
   EXPECT_EQ(boundsIn(*lowered, *low).get_y(), 40);
 }
 
+TEST(Stacks, ChildrenOfAColumnStandAtItsAlignment) {
+  auto* last = block(10, 10);
+  auto* centred = block(10, 10);
+  auto* trailing = vstack(0, {last, block(50, 10)}, HorizontalAlignment::trailing);
+  auto* centre = vstack(0, {centred, block(50, 10)}, HorizontalAlignment::centre);
+  auto* both = vstack(0, {trailing, centre});
+  TestWindow window(*both, 100);
+  EXPECT_EQ(boundsIn(*trailing, *last).get_x(), 40);
+  EXPECT_EQ(boundsIn(*centre, *centred).get_x(), 20);
+  both->set_direction(Gtk::TextDirection::RTL);
+  trailing->set_direction(Gtk::TextDirection::RTL);
+  drawFrame(*both);
+  EXPECT_EQ(boundsIn(*trailing, *last).get_x(), 0);
+  EXPECT_EQ(boundsIn(*both, *trailing).get_x(), 50);
+}
+
+TEST(Stacks, AChildThatExpandsAcrossItsStackGetsAllOfIt) {
+  auto* high = block(10, 10);
+  high->set_vexpand(true);
+  auto* row = hstack(0, {high, block(10, 50)});
+  TestWindow window(*row, 100);
+  EXPECT_EQ(high->get_height(), row->get_height());
+  EXPECT_GE(row->get_height(), 50);
+}
+
+TEST(Stacks, WhatExpandsDownwardsSharesWhatItsColumnHasLeft) {
+  auto* first = block(10, 10);
+  auto* spacer = vspacer();
+  auto* grown = block(10, 20);
+  grown->set_vexpand(true);
+  auto* column = vstack(10, {first, spacer, grown});
+  column->set_size_request(-1, 258);
+  auto* row = hstack(0, {column}, VerticalAlignment::top);
+  TestWindow window(*row, 100);
+  EXPECT_EQ(column->get_height(), 258);
+  EXPECT_EQ(first->get_height(), 10);
+  EXPECT_EQ(spacer->get_height(), 8 + 100);
+  EXPECT_EQ(grown->get_height(), 20 + 100);
+  EXPECT_EQ(boundsIn(*column, *grown).get_y(), 138);
+}
+
 TEST(Stacks, ARowOfEqualWidthsGivesEachChildTheSame) {
   auto* first = stretched(block(30, 10));
   auto* last = stretched(block(50, 10));
@@ -98,6 +139,16 @@ TEST(Stacks, ARowTriesATextInNoMoreWidthsThanItCanHave) {
   owner.append(*stack);
   EXPECT_EQ(heightRequest(*stack, 350).natural, 4000 / 250);
   EXPECT_LE(text->tries, 3);
+}
+
+TEST(Stacks, StacksInStacksGiveATextTheOneWidthItHas) {
+  auto* text = Gtk::make_managed<CountingText>();
+  auto* row = hstack(10, {vstack(8, {text, block(90, 10)}), block(90, 10)});
+  auto* column = vstack(8, {row, hstack(8, {block(20, 20), vstack(0, {})})}, HorizontalAlignment::centre);
+  TestWindow window(*column, 350);
+  EXPECT_EQ(text->get_width(), 250);
+  EXPECT_EQ(text->get_height(), 4000 / 250);
+  EXPECT_LE(text->tries, 6);
 }
 
 TEST(Stacks, ARowIsMirroredWhereTheWritingIs) {

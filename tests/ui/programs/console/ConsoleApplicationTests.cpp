@@ -34,7 +34,7 @@ class ColumnsTest : public ::testing::Test {
   }
   /// How many cards of the screen's grid stand in its first row.
   std::size_t cardsInFirstRow() {
-    const auto cards = grid().visibleChildren();
+    const auto cards = visibleChildren(grid());
     return static_cast<std::size_t>(std::ranges::count_if(cards, [&](auto* card) {
       const auto first = boundsIn(columns_, *cards.front()), bounds = boundsIn(columns_, *card);
       return bounds.get_y() < first.get_y() + first.get_height();
@@ -276,7 +276,7 @@ TEST_F(ConsoleApplicationTest, AtFirstTheFourFiguresFillOneRowBesideTheInspector
     ASSERT_TRUE(eventually([&] { return window().get_child()->get_width() > 0; }));
     EXPECT_TRUE(all<InspectorPanel>(window()).front()->get_mapped());
     auto* grid = all<AdaptiveGrid>(window()).front();
-    const auto tiles = grid->visibleChildren();
+    const auto tiles = visibleChildren(*grid);
     ASSERT_EQ(tiles.size(), 4U);
     for (auto* tile : tiles)
       EXPECT_EQ(boundsIn(*grid, *tile).get_y(), 0);
