@@ -4,6 +4,8 @@
 #include "engine/popupPlace.h"
 #include "engine/shortened.h"
 
+#include <algorithm>
+
 namespace quorvel {
 namespace {
 
@@ -77,14 +79,17 @@ void cut(GtkTreeView* list, GtkCellRenderer* cell) {
   g_object_set(cell, "single-paragraph-mode", TRUE, nullptr);
 }
 
-/// How wide a list may be that stands somewhere on the screen, beside what a desktop keeps there itself.
+/// How wide a list may be: with what the toolkit draws around it as wide as the page, and on the screen.
 int widestIn(GtkWidget* view) {
+  constexpr int frame = 24;
+  const int page = gtk_widget_get_width(view) - frame;
   auto* surface = gtk_native_get_surface(gtk_widget_get_native(view));
   auto* monitor = gdk_display_get_monitor_at_surface(gtk_widget_get_display(view), surface);
-  GdkRectangle bounds{0, 0, 1024, 768};
-  if (monitor)
-    gdk_monitor_get_geometry(monitor, &bounds);
-  return bounds.width * 7 / 8;
+  if (!monitor)
+    return page;
+  GdkRectangle screen;
+  gdk_monitor_get_geometry(monitor, &screen);
+  return std::min(page, screen.width * 7 / 8);
 }
 
 /// From GTK 4.18 on (where it was seen) a popup that finds no room on the screen closes at once.
@@ -97,6 +102,14 @@ void fit(GtkTreeView* list, GtkCellRenderer* cell, int widest) {
     return;
   gtk_tree_view_column_set_min_width(column, widest); // texts that end in dots ask for next to nothing
   g_object_set(cell, "ellipsize", PANGO_ELLIPSIZE_END, nullptr);
+}
+
+/// The engine asks for as much as the field has, which may be wider than what is seen of the page.
+void narrow(GtkPopover* popup, GtkScrolledWindow* content, int widest) {
+  if (gtk_scrolled_window_get_min_content_width(content) <= widest)
+    return;
+  gtk_scrolled_window_set_min_content_width(content, widest);
+  gtk_widget_set_size_request(GTK_WIDGET(popup), widest, -1);
 }
 
 GtkTreeView* listIn(GtkPopover* popup) {
@@ -112,8 +125,12 @@ GtkCellRenderer* cellOf(GtkTreeView* list) {
 }
 
 void fitIn(GtkPopover* popup) {
-  if (auto* list = listIn(popup))
-    fit(list, cellOf(list), widestIn(gtk_widget_get_parent(GTK_WIDGET(popup))));
+  auto* list = listIn(popup);
+  if (!list)
+    return;
+  const int widest = widestIn(gtk_widget_get_parent(GTK_WIDGET(popup)));
+  fit(list, cellOf(list), widest);
+  narrow(popup, GTK_SCROLLED_WINDOW(gtk_popover_get_child(popup)), widest);
 }
 
 void cutIn(GtkPopover* popup) {
@@ -128,9 +145,9 @@ void follow(GtkPopover* popup) {
   cutIn(popup);
   fitIn(popup);
   g_signal_connect(popup, "notify::child", G_CALLBACK(cutIn), nullptr);
+  g_signal_connect(popup, "show", G_CALLBACK(fitIn), nullptr); // suggestions are there only now
   if (!GTK_IS_POPOVER_MENU(popup)) // which its owner has opened where the pointer is
     keepInView(popup);
-  g_signal_connect(popup, "show", G_CALLBACK(fitIn), nullptr); // suggestions are there only now
 }
 
 void cutLabelsIn(GtkWidget* dialog) {

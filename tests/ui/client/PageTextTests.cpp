@@ -78,6 +78,7 @@ class PageTextTest : public ModelTest {
     tests::clickOn(page());
     auto& list = nextList();
     EXPECT_EQ(lastTextIn(list), cut);
+    EXPECT_LE(openPopup()->get_width(), page().get_width());
     tests::clickOn(list);
     expectTitle(expectedTitle);
     EXPECT_THAT(silence.milliseconds(), Lt(bearable));
@@ -155,6 +156,12 @@ TEST_F(PageTextTest, AChoiceOfManyLinesCanBeTaken) {
   tests::clickOn(page());
   tests::clickOn(nextList());
   expectTitle("Taken");
+}
+
+TEST_F(PageTextTest, TheListOfAFieldThatIsWiderThanThePageIsNot) {
+  showThing("<select id=thing style='width: 5000px'><option>One</select>", "");
+  tests::clickOn(page());
+  EXPECT_LE(nextPopup().get_width(), page().get_width());
 }
 
 TEST_F(PageTextTest, ALongChoiceIsTakenByKeys) {
