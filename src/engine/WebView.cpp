@@ -7,6 +7,7 @@
 #include "engine/PageDialogs.h"
 #include "engine/PageKeys.h"
 #include "engine/PageSandbox.h"
+#include "engine/SignInQuestions.h"
 #include "engine/UserGestures.h"
 #include "engine/WebSession.h"
 #include "engine/engineTexts.h"
@@ -86,6 +87,7 @@ class WebView::Engine {
   PageKeys keys_;
   UserGestures gestures_;
   PageDialogs dialogs_;
+  SignInQuestions signIns_{view()};
   OncePerGesture launches_; // of mail and telephone programs
   OncePerGesture downloads_;
   OncePerGesture prints_;

@@ -215,6 +215,34 @@ TEST_F(HostilePageTest, AProcessThatSomebodyElseHasStoppedStaysSo) {
   EXPECT_TRUE(areStopped(SystemProcess::ourselves().descendants("WebKitWebProcess")));
 }
 
+/// Servers that ask who is there, for one thing of a page after the other.
+struct SignInFloodTest : HostilePageTest {
+  /// Of one realm the engine asks only once at a time.
+  static std::string realmOf(SoupServerMessage* message) {
+    return g_uri_get_query(soup_server_message_get_uri(message));
+  }
+  SignInFloodTest() {
+    server.answer("/sign-in", [](SoupServerMessage* message) {
+      soup_server_message_set_status(message, SOUP_STATUS_UNAUTHORIZED, nullptr);
+      soup_message_headers_replace(soup_server_message_get_response_headers(message), "WWW-Authenticate",
+                                   ("Basic realm=\"" + realmOf(message) + "\"").c_str());
+    });
+    showPageThat(always("fetch('/sign-in?' + n++)"));
+  }
+  std::ptrdiff_t questions() {
+    return std::ranges::count(tests::texts(model->webView().widget()), "Authentication Required");
+  }
+
+  tests::TestWindow window{model->webView().widget(), 600, 400};
+};
+
+TEST_F(SignInFloodTest, TheQuestionsOfAPageGoWithIt) {
+  ASSERT_TRUE(tests::eventually([&] { return questions(); }, ::testing::Gt(1)));
+  model->load(server.address("/pricing.html"));
+  expectArrival("/pricing.html", "Pricing");
+  EXPECT_TRUE(tests::eventually([&] { return questions(); }, ::testing::Eq(0)));
+}
+
 struct Trick {
   const char* name;
   std::string does;
