@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <csignal>
 #include <optional>
+#include <stdexcept>
 
 namespace quorvel {
 namespace {
@@ -106,12 +107,19 @@ TEST_F(HostilePageTest, ForwardLeadsToAPageThatHadFilledTheHistoryAndBackOutAgai
   expectArrival("/agent.html", "Agent");
 }
 
+bool areStopped(const std::vector<SystemProcess>& processes) {
+  return !processes.empty() && std::ranges::all_of(processes, &SystemProcess::isStopped);
+}
+
 /// Stops every process of the engine that runs a program of this name, as long as it exists. One that stayed
 /// stopped would outlive the test.
 class StoppedProcesses {
  public:
   explicit StoppedProcesses(const char* name) : stopped_(SystemProcess::ourselves().descendants(name)) {
     signal(SIGSTOP);
+    // Each stops once its turn on a processor comes.
+    if (!tests::eventually([&] { return areStopped(SystemProcess::ourselves().descendants(name)); }))
+      throw std::runtime_error("it went on");
   }
   ~StoppedProcesses() { signal(SIGCONT); }
 
@@ -177,10 +185,6 @@ TEST_F(HostilePageTest, APageThatMerelyComputesIsLeftAlone) {
   EXPECT_FALSE(timer.isRunning(OwnersCommand::patience)) << "the owner has asked for nothing";
   EXPECT_THAT(SystemProcess::ourselves().descendants("WebKitWebProcess"), Not(IsEmpty()));
   EXPECT_EQ(server.count("/hostile.html"), 1);
-}
-
-bool areStopped(const std::vector<SystemProcess>& processes) {
-  return !processes.empty() && std::ranges::all_of(processes, &SystemProcess::isStopped);
 }
 
 /// What is seen of a page whenever the program has heard a word of it.
