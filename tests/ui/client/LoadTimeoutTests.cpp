@@ -165,7 +165,7 @@ TEST_F(LoadTimeoutTest, APageThatComputesForEverEndsTheLoadingState) {
               "<title>Hang</title><script>navigator.sendBeacon('/armed'); while (true) {}</script>");
   model->load(server.address("/hang.html"));
   ASSERT_TRUE(tests::eventually([&] { return server.count("/armed") > 0 && isDocument("/hang.html"); }));
-  EXPECT_TRUE(model->isLoading);
+  EXPECT_TRUE(tests::eventually([&] { return *model->isLoading; }));
   timer.letOff();
   ASSERT_TRUE(tests::eventually([&] { return timer.isRunning(LoadWatchdog::answerLimit); }));
   timer.letOff(LoadWatchdog::answerLimit);
