@@ -9,8 +9,9 @@ namespace {
 constexpr std::chrono::seconds moment{3};
 // Within a moment no honest page takes longer than this altogether.
 constexpr std::chrono::milliseconds longest{500};
-// Up to this any page may go on speaking; and with so few words, which wait for a program that is starting.
+// Up to this any page may go on speaking.
 constexpr std::chrono::milliseconds unnoticed{100};
+// So few words are no flood: they wait for a program that is starting, or for a busy machine.
 constexpr int wordsOfALoad = 10;
 
 } // namespace
@@ -32,7 +33,8 @@ FloodGauge::~FloodGauge() {
 }
 
 bool FloodGauge::isFlooded() const {
-  return lately().wait > longest;
+  const auto all = lately();
+  return all.wait > longest && all.words > wordsOfALoad;
 }
 
 FloodGauge::Turn FloodGauge::lately() const {

@@ -212,6 +212,21 @@ TEST_F(HostilePageTest, APageThatSaysTooMuchIsHeardLittleByLittle) {
   EXPECT_TRUE(tests::eventually([&, before = hearing.words] { return hearing.words > before + 20; }));
 }
 
+TEST_F(HostilePageTest, APageIsNotToBlameForABusyMachine) {
+  const auto beBusy = +[] {
+    const auto start = std::chrono::steady_clock::now();
+    while (std::chrono::steady_clock::now() - start < std::chrono::milliseconds(700)) {
+    }
+  };
+  const auto handler = g_signal_connect(webView(), "notify::title", G_CALLBACK(beBusy), nullptr);
+  show("/agent.html");
+  g_signal_handler_disconnect(webView(), handler);
+  const auto page = SystemProcess::ourselves().descendants("WebKitWebProcess").at(0).id();
+  model->reload();
+  ASSERT_TRUE(tests::eventually([&] { return server.count("/agent.html") == 2; }));
+  EXPECT_TRUE(SystemProcess(page).exists());
+}
+
 TEST_F(HostilePageTest, AProcessThatSomebodyElseHasStoppedStaysSo) {
   show("/agent.html");
   const StoppedProcesses stopped("WebKitWebProcess");
