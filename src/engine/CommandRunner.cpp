@@ -34,11 +34,21 @@ bool endsWithoutPage(WebKitResponsePolicyDecision* response) {
          !webkit_response_policy_decision_is_mime_type_supported(response);
 }
 
+bool wasStopped(const GError* error) {
+  return g_error_matches(error, WEBKIT_NETWORK_ERROR, WEBKIT_NETWORK_ERROR_CANCELLED);
+}
+
+bool wasInterrupted(const GError* error) {
+  return g_error_matches(error, WEBKIT_POLICY_ERROR,
+                         WEBKIT_POLICY_ERROR_FRAME_LOAD_INTERRUPTED_BY_POLICY_CHANGE);
+}
+
 } // namespace
 
 CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner)
     : view_(view), owner_(std::move(owner)), command_({startTimer, [this] { ask(); }, [this] { insist(); }}),
-      network_(std::move(startTimer), [this] { return isUnderWay(); }), gauge_(view_), wayBack_(view_) {
+      network_(startTimer, [this] { return isUnderWay(); }), gauge_(view_), wayBack_(view_),
+      errorPage_(view_, std::move(startTimer)) {
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, CommandRunner* self) { self->noteEvent(event); };
   g_signal_connect(view_, "load-changed", G_CALLBACK(onEvent), this);
@@ -54,10 +64,20 @@ CommandRunner::~CommandRunner() {
   g_signal_handlers_disconnect_by_data(view_, this);
 }
 
+/// A process that hangs has no page to wait for.
+void CommandRunner::letPass(const std::function<void()>& command) {
+  if (isOverruled_)
+    command();
+  else
+    errorPage_.letPass(command);
+}
+
 void CommandRunner::load(const std::string& address) {
-  requested_ = address;
-  wayBack_.noteOwner();
-  carryOut({WEBKIT_NAVIGATION_TYPE_OTHER, [this] { tellToLoad(); }});
+  letPass([this, address] {
+    requested_ = address;
+    wayBack_.noteOwner();
+    carryOut({WEBKIT_NAVIGATION_TYPE_OTHER, [this] { tellToLoad(); }});
+  });
 }
 
 void CommandRunner::loadForPage(const std::string& address) {
@@ -75,10 +95,14 @@ void CommandRunner::reload() {
   if (!webkit_back_forward_list_get_current_item(webkit_web_view_get_back_forward_list(view_)))
     load(requested_);
   else
-    carryOut({WEBKIT_NAVIGATION_TYPE_RELOAD, [this] { webkit_web_view_reload(view_); }});
+    letPass([this] { carryOut({WEBKIT_NAVIGATION_TYPE_RELOAD, [this] { webkit_web_view_reload(view_); }}); });
 }
 
 void CommandRunner::goBack() {
+  letPass([this] { leaveBackwards(); });
+}
+
+void CommandRunner::leaveBackwards() {
   auto* history = webkit_web_view_get_back_forward_list(view_);
   if (auto* origin = wayBack_.target())
     leaveFor(origin);
@@ -107,8 +131,10 @@ void CommandRunner::aimAt(WebKitBackForwardListItem* item) {
 }
 
 void CommandRunner::goForward() {
-  auto* history = webkit_web_view_get_back_forward_list(view_);
-  goTo(webkit_back_forward_list_get_forward_item(history), webkit_web_view_go_forward);
+  letPass([this] {
+    auto* history = webkit_web_view_get_back_forward_list(view_);
+    goTo(webkit_back_forward_list_get_forward_item(history), webkit_web_view_go_forward);
+  });
 }
 
 void CommandRunner::goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*)) {
@@ -271,9 +297,7 @@ bool CommandRunner::leadsTo(const std::string& address) const {
 
 /// By the page on screen, which stops it or goes somewhere else.
 bool CommandRunner::isBrokenOff(const GError* error) const {
-  return g_error_matches(error, WEBKIT_NETWORK_ERROR, WEBKIT_NETWORK_ERROR_CANCELLED) ||
-         (!isPageless_ && g_error_matches(error, WEBKIT_POLICY_ERROR,
-                                          WEBKIT_POLICY_ERROR_FRAME_LOAD_INTERRUPTED_BY_POLICY_CHANGE));
+  return wasStopped(error) || (!isPageless_ && wasInterrupted(error));
 }
 
 bool CommandRunner::noteFailure(const std::string& address, const GError* error) {
@@ -281,6 +305,8 @@ bool CommandRunner::noteFailure(const std::string& address, const GError* error)
   if (leadsTo(failed_))
     isUnopposed_ = false;
   const bool isLost = NetworkWatch::hasLost(error) && command_.isUnderWay();
+  if (!isLost && !wasStopped(error) && !wasInterrupted(error))
+    errorPage_.expect(address);
   // The page's menu has a way to stop it.
   if (isLost || (isBrokenOff(error) && !owner_.isInPage()))
     command_.loadBrokenOff();

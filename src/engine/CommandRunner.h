@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/ErrorPage.h"
 #include "engine/FloodGauge.h"
 #include "engine/GObjectPointer.h"
 #include "engine/NetworkWatch.h"
@@ -56,6 +57,8 @@ class CommandRunner : public sigc::trackable {
     std::function<void()> begin = nullptr; ///< in place of that, where it is not done again
   };
 
+  void letPass(const std::function<void()>& command);
+  void leaveBackwards();
   bool isBeyondAsking() const;
   void goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*));
   void leaveFor(WebKitBackForwardListItem* origin);
@@ -95,6 +98,7 @@ class CommandRunner : public sigc::trackable {
   NetworkWatch network_;
   FloodGauge gauge_;
   WayBack wayBack_;
+  ErrorPage errorPage_;
   GObjectPointer<GCancellable> question_{g_cancellable_new()};
 };
 

@@ -1,4 +1,5 @@
 #include "client/QuorvelWebView.h"
+#include "engine/ErrorPage.h"
 #include "support/Setting.h"
 #include "support/TestWindow.h"
 #include "ui/client/ModelTest.h"
@@ -308,6 +309,64 @@ TEST_F(DesktopBrowserModelTest, TheEnginesErrorPageDoesNotTakeThePlaceOfWhatIsAs
     if (HasFatalFailure())
       return;
   }
+}
+
+/// Has the engine's page about a load that failed come when a test shows it.
+class LateErrorPageTest : public DesktopBrowserModelTest {
+ protected:
+  void SetUp() override {
+    show("/agent.html");
+    const auto keepBack = +[](WebKitWebView*, WebKitLoadEvent, const char*, GError*,
+                              bool* hasFailed) -> gboolean { return *hasFailed = true; };
+    g_signal_connect(webView(), "load-failed", G_CALLBACK(keepBack), &hasFailed_);
+    model->load(nowhere);
+    ASSERT_TRUE(tests::eventually([&] { return hasFailed_; }));
+    waitForRest();
+  }
+  void showErrorPage() { webkit_web_view_load_alternate_html(webView(), "Nothing", nowhere, nullptr); }
+
+  static constexpr auto* nowhere = "http://nowhere.invalid/";
+
+ private:
+  bool hasFailed_ = false;
+};
+
+TEST_F(LateErrorPageTest, WhatIsAskedForMeanwhileWaitsForIt) {
+  model->load(server.address("/pricing.html"));
+  settle();
+  EXPECT_EQ(server.count("/pricing.html"), 0);
+  showErrorPage();
+  waitForAddress("/pricing.html");
+}
+
+TEST_F(LateErrorPageTest, TheLastOfWhatIsAskedForMeanwhileCounts) {
+  model->load(server.address("/pricing.html"));
+  model->webView().goBack();
+  model->load(server.address("/agent.html#last"));
+  showErrorPage();
+  waitForAddress("/agent.html#last");
+  EXPECT_EQ(server.count("/pricing.html"), 0);
+}
+
+TEST_F(LateErrorPageTest, ItIsNotWaitedForForLong) {
+  model->load(server.address("/pricing.html"));
+  settle();
+  timer.letOff(ErrorPage::patience);
+  waitForAddress("/pricing.html");
+}
+
+TEST_F(DesktopBrowserModelTest, TheErrorPageOfWhatAPageGoesToStays) {
+  const std::string nowhere = "http://nowhere.invalid/";
+  show("/agent.html");
+  model->load(nowhere);
+  ASSERT_TRUE(tests::eventually([&] { return *model->currentURLString == nowhere; }));
+  waitForRest();
+  show("/pricing.html");
+  runScript("location = '" + nowhere + "'");
+  ASSERT_TRUE(tests::eventually([&] { return *model->currentURLString == nowhere; }));
+  waitForRest();
+  EXPECT_EQ(*model->currentURLString, nowhere);
+  EXPECT_EQ(server.count("/pricing.html"), 1u);
 }
 
 TEST_F(DesktopBrowserModelTest, WhereTheViewReportsNoTitleTheProgramsNameStandsForIt) {
