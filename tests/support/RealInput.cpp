@@ -69,17 +69,25 @@ void clickOn(Gtk::Widget& widget) {
   xdotool({"click", "1"});
 }
 
-std::string nextTooltip() {
+std::string tipOf(Gtk::Widget& widget) {
   GtkWidget* shown = nullptr;
   const auto onMap = +[](GSignalInvocationHint*, guint, const GValue* values, gpointer found) -> gboolean {
-    auto* widget = static_cast<GtkWidget*>(g_value_get_object(values));
-    if (std::string_view(G_OBJECT_TYPE_NAME(widget)) == "GtkTooltipWindow")
-      *static_cast<GtkWidget**>(found) = widget;
+    auto* mapped = static_cast<GtkWidget*>(g_value_get_object(values));
+    if (std::string_view(G_OBJECT_TYPE_NAME(mapped)) == "GtkTooltipWindow")
+      *static_cast<GtkWidget**>(found) = mapped;
     return true;
   };
   const auto signal = g_signal_lookup("map", GTK_TYPE_WIDGET);
   const auto hook = g_signal_add_emission_hook(signal, 0, onMap, &shown, nullptr);
-  const bool hasAppeared = eventually([&] { return shown != nullptr; });
+  using Clock = std::chrono::steady_clock;
+  auto nextMove = Clock::now();
+  const bool hasAppeared = eventually([&] {
+    if (Clock::now() >= nextMove) {
+      pointAt(widget);
+      nextMove = Clock::now() + std::chrono::seconds(2);
+    }
+    return shown != nullptr;
+  });
   g_signal_remove_emission_hook(signal, hook);
   return hasAppeared ? all<Gtk::Label>(*Glib::wrap(shown)).front()->get_text() : "";
 }

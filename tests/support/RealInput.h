@@ -10,8 +10,9 @@ namespace quorvel::tests {
 
 /// Puts the pointer over the middle of a widget that is on screen.
 void pointAt(Gtk::Widget& widget);
-/// The text of the next tooltip to appear.
-std::string nextTooltip();
+/// What the tip of a widget says. The pointer is moved again where none comes: one that has just gone makes
+/// the toolkit deaf to a first move.
+std::string tipOf(Gtk::Widget& widget);
 /// Clicks in the middle of a widget that is on screen.
 void clickOn(Gtk::Widget& widget);
 /// Strikes a key ("space", "Return", "Tab") in the window that the pointer is over.

@@ -95,16 +95,14 @@ class PageTextTest : public ModelTest {
 TEST_F(PageTextTest, ATipOfAMegabyteIsCut) {
   showThing("<p id=thing>", "thing.title = 'x'.repeat(1e6)");
   LongestSilence silence;
-  tests::pointAt(page());
-  EXPECT_EQ(tests::nextTooltip(), cut);
+  EXPECT_EQ(tests::tipOf(page()), cut);
   tests::drawFrame(page());
   EXPECT_THAT(silence.milliseconds(), Lt(bearable));
 }
 
 TEST_F(PageTextTest, ATipThatCanBeReadIsShownAsItIs) {
   showThing("<p id=thing title='Größe <b> &amp;amp; Farbe'>", "");
-  tests::pointAt(page());
-  EXPECT_EQ(tests::nextTooltip(), "Größe <b> &amp; Farbe");
+  EXPECT_EQ(tests::tipOf(page()), "Größe <b> &amp; Farbe");
 }
 
 TEST_F(PageTextTest, ChoicesOfAMegabyteAreCutAndCanBeTaken) {
@@ -122,8 +120,7 @@ TEST_F(PageTextTest, TheTipOfAChoiceIsCut) {
   tests::clickOn(page());
   auto& list = nextList();
   EXPECT_EQ(lastTextIn(list), "Three");
-  tests::pointAt(list);
-  EXPECT_EQ(tests::nextTooltip(), cut);
+  EXPECT_EQ(tests::tipOf(list), cut);
   tests::drawFrame(page());
   EXPECT_THAT(silence.milliseconds(), Lt(bearable));
 }
