@@ -54,7 +54,7 @@ GObjectPointer<WebKitWebView> makeView(WebKitNetworkSession* session) {
   allowSwipes(WEBKIT_WEB_VIEW(view));
   keepTabMoving(WEBKIT_WEB_VIEW(view));
   keepGroundDark(WEBKIT_WEB_VIEW(view));
-  cutPopups(WEBKIT_WEB_VIEW(view));
+  boundPopups(WEBKIT_WEB_VIEW(view));
   cutTips(WEBKIT_WEB_VIEW(view));
   return GObjectPointer<WebKitWebView>(WEBKIT_WEB_VIEW(g_object_ref_sink(view)));
 }

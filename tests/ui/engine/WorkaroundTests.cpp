@@ -57,7 +57,7 @@ TEST(Workaround, NewerToolkitsCloseAPopupThatFindsNoRoom) {
   popup.popup();
   tests::drawFrame(content);
   const bool isOlder = gtk_get_minor_version() < 18;
-  EXPECT_TRUE(tests::eventually([&] { return popup.get_visible() == isOlder; })) << "see fit() in popups.cpp";
+  EXPECT_TRUE(tests::eventually([&] { return popup.get_visible() == isOlder; })) << "see fitOnScreen()";
   popup.unparent();
 }
 
