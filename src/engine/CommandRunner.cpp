@@ -47,8 +47,9 @@ bool wasInterrupted(const GError* error) {
 
 CommandRunner::CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner)
     : view_(view), owner_(std::move(owner)), command_({startTimer, [this] { ask(); }, [this] { insist(); }}),
-      network_(startTimer, [this] { return isUnderWay(); }), gauge_(view_), wayBack_(view_),
-      errorPage_(view_, std::move(startTimer)) {
+      network_(startTimer, {[this] { return isWaiting(); }, [this] { return owner_.isDownloading(); },
+                            [this] { replacePage(); }}),
+      gauge_(view_), wayBack_(view_), errorPage_(view_, std::move(startTimer)) {
   const auto onEvent =
       +[](WebKitWebView*, WebKitLoadEvent event, CommandRunner* self) { self->noteEvent(event); };
   g_signal_connect(view_, "load-changed", G_CALLBACK(onEvent), this);
@@ -183,8 +184,10 @@ bool CommandRunner::isBeyondAsking() const {
 }
 
 void CommandRunner::carryOut(Wish wish) {
+  network_.commandGiven();
   wish_ = std::move(wish);
   command_.end();
+  isAfresh_ = false;
   const auto onScreen = addressOf(view_);
   const bool wasLoading = webkit_web_view_is_loading(view_);
   const bool isBeyond = isBeyondAsking();
@@ -205,7 +208,6 @@ void CommandRunner::carryOut(Wish wish) {
   if (isUnopposed_)
     return;
   command_.begin();
-  network_.restart();
 }
 
 std::string CommandRunner::destination() const {
@@ -247,6 +249,11 @@ void CommandRunner::noteAnswer(const std::string& place) {
   command_.answered(webkit_web_view_is_loading(view_), isThere);
 }
 
+void CommandRunner::replacePage() {
+  command_.end(); // or it might insist itself
+  insist();
+}
+
 void CommandRunner::insist() {
   // Not within the engine's own handling of what the process has said, and before the rest of that.
   Glib::signal_idle().connect_once(sigc::mem_fun(*this, &CommandRunner::startAfresh), Glib::PRIORITY_HIGH);
@@ -256,11 +263,13 @@ void CommandRunner::startAfresh() {
   command_.end();
   webkit_web_view_terminate_web_process(view_);
   isUnopposed_ = wish_.type != WEBKIT_NAVIGATION_TYPE_RELOAD; // which leads to wherever the page was
+  isAfresh_ = true;
   wish_.carryOut();
+  network_.pageReplaced();
 }
 
 void CommandRunner::giveUp() {
-  isUnopposed_ = false;
+  isUnopposed_ = isAfresh_ = false;
   command_.end();
 }
 
@@ -284,6 +293,7 @@ void CommandRunner::noteEvent(WebKitLoadEvent event) {
 }
 
 void CommandRunner::noteArrivalAt(const std::string& address) {
+  isAfresh_ = false;
   const bool wasUnopposed = std::exchange(isUnopposed_, false);
   if (leadsTo(address))
     command_.loadCommitted(); // rather than a load of the page's that was let go before
@@ -304,11 +314,15 @@ bool CommandRunner::noteFailure(const std::string& address, const GError* error)
   failed_ = address;
   if (leadsTo(failed_))
     isUnopposed_ = false;
-  const bool isLost = NetworkWatch::hasLost(error) && command_.isUnderWay();
-  if (!isLost && !wasStopped(error) && !wasInterrupted(error))
+  const bool isLost = NetworkWatch::hasLost(error) && isWaiting();
+  if (!isLost && !wasStopped(error) && !wasInterrupted(error)) {
+    isAfresh_ = false;
     errorPage_.expect(address);
+  }
   // The page's menu has a way to stop it.
-  if (isLost || (isBrokenOff(error) && !owner_.isInPage()))
+  if (isLost && isAfresh_)
+    insist();
+  else if (isLost || (isBrokenOff(error) && !owner_.isInPage()))
     command_.loadBrokenOff();
   else
     command_.loadFailed();

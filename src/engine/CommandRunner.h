@@ -18,8 +18,9 @@ namespace quorvel {
 class CommandRunner : public sigc::trackable {
  public:
   struct Owner {
-    std::function<void()> onLoad;   ///< the view has just been told to load an address
-    std::function<bool()> isInPage; ///< the owner has turned to the page since the last command
+    std::function<void()> onLoad;        ///< the view has just been told to load an address
+    std::function<bool()> isInPage;      ///< the owner has turned to the page since the last command
+    std::function<bool()> isDownloading; ///< anything is being downloaded
   };
   CommandRunner(WebKitWebView* view, TimerFunction startTimer, Owner owner);
   ~CommandRunner();
@@ -59,6 +60,8 @@ class CommandRunner : public sigc::trackable {
 
   void letPass(const std::function<void()>& command);
   void leaveBackwards();
+  /// The owner, for what he asked for last.
+  bool isWaiting() const { return isUnderWay() || isAfresh_; }
   bool isBeyondAsking() const;
   void goTo(WebKitBackForwardListItem* neighbour, void (*go)(WebKitWebView*));
   void leaveFor(WebKitBackForwardListItem* origin);
@@ -71,6 +74,7 @@ class CommandRunner : public sigc::trackable {
   void ask();
   /// `place` is where the page says it is.
   void noteAnswer(const std::string& place);
+  void replacePage();
   void insist();
   void startAfresh();
   void noteEvent(WebKitLoadEvent event);
@@ -93,6 +97,7 @@ class CommandRunner : public sigc::trackable {
   bool isPageless_ = false;                          // what was answered
   bool isOverruled_ = false;                         // the page, without another question
   bool isUnopposed_ = false;                         // by any page, so far as the view knew
+  bool isAfresh_ = false;                            // on a fresh process, and nothing has come of it yet
   GObjectPointer<WebKitBackForwardListItem> target_; // in the history
   OwnersCommand command_;
   NetworkWatch network_;

@@ -32,6 +32,8 @@ class DownloadKeeper {
   DownloadKeeper(const DownloadKeeper&) = delete;
   DownloadKeeper& operator=(const DownloadKeeper&) = delete;
 
+  /// Whether anything is being downloaded.
+  bool isBusy() const { return !watched_.empty(); }
   /// Breaks off a download; one that has ended stays as it is.
   void cancel(const std::string& id);
 

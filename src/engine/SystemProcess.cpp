@@ -55,6 +55,13 @@ bool SystemProcess::isStopped() const {
   return value("State").starts_with('T');
 }
 
+std::chrono::nanoseconds SystemProcess::timeAtWork() const {
+  std::ifstream counts(fs::path("/proc") / std::to_string(id_) / "schedstat");
+  std::chrono::nanoseconds::rep hasRun = 0, hasWaited = 0;
+  counts >> hasRun >> hasWaited;
+  return std::chrono::nanoseconds(hasRun + hasWaited);
+}
+
 std::ptrdiff_t SystemProcess::processNamespaces() const {
   std::istringstream numbers(value("NSpid"));
   return std::distance(std::istream_iterator<pid_t>(numbers), {});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <map>
 #include <string>
@@ -21,6 +22,9 @@ class SystemProcess {
   bool exists() const;
   /// Whether somebody has stopped it, to go on later or never.
   bool isStopped() const;
+  /// For how long, until now, its main thread has run or has waited for a processor: all the time that it has
+  /// not rested. Nothing where the kernel does not count that.
+  std::chrono::nanoseconds timeAtWork() const;
   /// Whether it can make only such system calls as a filter lets through.
   bool isFiltered() const { return value("Seccomp") == "2"; }
   /// In how many nested namespaces of processes it has a number.

@@ -26,7 +26,9 @@ class WebView::Engine {
       : owner_(std::move(owner)),
         session_(folders, {[this] { return downloads_.take(); }, owner_.onDownload}),
         view_(makeView(session_.get())), sandbox_(owner_.onUnconfined),
-        commands_(view(), startTimer, {[this] { watchdog_.begin(); }, [this] { return isOwnerInPage_; }}),
+        commands_(view(), startTimer,
+                  {[this] { watchdog_.begin(); }, [this] { return isOwnerInPage_; },
+                   [this] { return session_.downloads().isBusy(); }}),
         watchdog_(view(), startTimer, {[this] { commands_.giveUp(); }, owner_.onChange}),
         keys_(
             view(), std::move(startTimer),

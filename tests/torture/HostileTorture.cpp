@@ -2,6 +2,7 @@
 #include "torture/torture.h"
 
 #include <csignal>
+#include <fstream>
 
 namespace quorvel::e2e {
 namespace {
@@ -33,6 +34,7 @@ std::string anew(const std::string& element, const std::string& settings) {
          "}); document.body.append(e)";
 }
 
+const std::string requests = "for (let i = 0; i < 50; ++i) fetch('/status?code=204&' + n++)";
 constexpr bool core = true;
 constexpr auto pageProcess = "WebKitWebProces";
 
@@ -73,6 +75,10 @@ const std::vector<Hostile> pages = {
     {"Reloads", "setTimeout(() => location.reload())"},
     {"Stops", always("window.stop()")},
     {"Icons", always(anew("link", "rel: 'icon', href: '/?' + n++") + "; document.head.append(e)")},
+    {"Requests", always(requests)},
+    {"RequestsOfAWorker",
+     "navigator.serviceWorker.register('/worker.js').then(() => navigator.serviceWorker.ready)"
+     ".then(ready => ready.active.postMessage(''))"},
     {"Permissions",
      always("navigator.geolocation.getCurrentPosition(() => {}); Notification.requestPermission();"
             "document.body.requestFullscreen().catch(() => {}); document.body.requestPointerLock()")},
@@ -108,6 +114,8 @@ class HostileTorture : public ClientTest, public testing::WithParamInterface<Hos
                                       "}); const wait = () => fetch('/go.html', {cache: 'no-store'})"
                                       ".then(answer => answer.ok ? start() : setTimeout(wait, 50));"
                                       "addEventListener('load', wait)</script>");
+    std::ofstream(stage.folder() / "pages" / "worker.js")
+        << "let n = 0; addEventListener('message', () => " + always(requests) + ")";
   }
 
   Effect onClient() {
