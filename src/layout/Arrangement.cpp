@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <gtk/gtk.h>
-#include <numeric>
 
 namespace quorvel {
 namespace {
