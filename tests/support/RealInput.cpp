@@ -13,6 +13,7 @@ namespace quorvel::tests {
 namespace {
 
 void xdotool(std::vector<std::string> arguments) {
+  gdk_display_sync(gdk_display_get_default()); // what went before, such as a menu that closes, counts first
   arguments.insert(arguments.begin(), "xdotool");
   int status = 0;
   Glib::spawn_sync("", arguments, Glib::SpawnFlags::SEARCH_PATH, {}, nullptr, nullptr, &status);
@@ -104,7 +105,13 @@ void holdKey(const std::string& name, Gtk::Widget& window) {
   keys->set_propagation_phase(Gtk::PropagationPhase::CAPTURE);
   keys->signal_key_pressed().connect([&](guint, guint, Gdk::ModifierType) { return ++presses < 0; }, false);
   window.add_controller(keys);
+  const auto isHeard = [&] { return presses > 0; };
   xdotool({"keydown", name});
+  // While a menu closes the display may have nobody to send a key to.
+  if (!eventually(isHeard, testing::Eq(true), std::chrono::seconds(3))) {
+    xdotool({"keyup", name});
+    xdotool({"keydown", name});
+  }
   const bool hasRepeated = eventually([&] { return presses >= longEnough; });
   xdotool({"keyup", name});
   window.remove_controller(keys);
