@@ -128,7 +128,7 @@ void CommandRunner::goToOrigin() {
 }
 
 void CommandRunner::aimAt(WebKitBackForwardListItem* item) {
-  target_.reset(WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(item)));
+  target_ = referenceTo(item);
 }
 
 void CommandRunner::goForward() {

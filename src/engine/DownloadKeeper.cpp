@@ -79,8 +79,8 @@ void DownloadKeeper::start(WebKitDownload* download) {
     webkit_download_cancel(download);
     return;
   }
-  watched_.push_back({GObjectPointer<WebKitDownload>(WEBKIT_DOWNLOAD(g_object_ref(download))),
-                      {.id = std::to_string(++count_), .name = nameInAddress(download)}});
+  watched_.push_back(
+      {referenceTo(download), {.id = std::to_string(++count_), .name = nameInAddress(download)}});
   const auto onName = +[](WebKitDownload* started, const char* name, DownloadKeeper* self) -> gboolean {
     self->decideDestination(started, name);
     return TRUE;

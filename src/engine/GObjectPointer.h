@@ -13,4 +13,12 @@ struct GObjectUnref {
 template <class Object>
 using GObjectPointer = std::unique_ptr<Object, GObjectUnref>;
 
+/// One more reference to an object that somebody else owns; nothing for nothing.
+template <class Object>
+GObjectPointer<Object> referenceTo(Object* object) {
+  if (object)
+    g_object_ref(object);
+  return GObjectPointer<Object>(object);
+}
+
 } // namespace quorvel

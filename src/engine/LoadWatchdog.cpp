@@ -75,7 +75,7 @@ void LoadWatchdog::noteProgress() {
 void LoadWatchdog::followDocument(WebKitWebResource* document) {
   if (document_)
     g_signal_handlers_disconnect_by_data(document_.get(), this);
-  document_.reset(document ? WEBKIT_WEB_RESOURCE(g_object_ref(document)) : nullptr);
+  document_ = referenceTo(document);
   knownLength_ = 0;
   const auto onEnd = +[](LoadWatchdog* self) { self->noteEndOfRequest(); };
   if (document)

@@ -40,7 +40,7 @@ void SignInQuestions::forget(gpointer self, GObject* question) {
 void SignInQuestions::cancelAll() {
   std::vector<GObjectPointer<WebKitAuthenticationRequest>> all;
   for (auto* each : open_)
-    all.emplace_back(WEBKIT_AUTHENTICATION_REQUEST(g_object_ref(each)));
+    all.push_back(referenceTo(each));
   for (const auto& each : all)
     webkit_authentication_request_cancel(each.get()); // of one that is answered nothing changes
 }

@@ -13,11 +13,6 @@ constexpr auto listener = R"(addEventListener('click', event => {
     webkit.messageHandlers.pageClick.postMessage('');
 }, true);)";
 
-GObjectPointer<WebKitBackForwardListItem> kept(WebKitBackForwardListItem* item) {
-  return GObjectPointer<WebKitBackForwardListItem>(item ? WEBKIT_BACK_FORWARD_LIST_ITEM(g_object_ref(item))
-                                                        : nullptr);
-}
-
 } // namespace
 
 WayBack::WayBack(WebKitWebView* view) : view_(view) {
@@ -46,8 +41,8 @@ void WayBack::noteDocument() {
 }
 
 void WayBack::hold() {
-  own_ = kept(webkit_back_forward_list_get_current_item(history()));
-  origin_ = kept(webkit_back_forward_list_get_back_item(history()));
+  own_ = referenceTo(webkit_back_forward_list_get_current_item(history()));
+  origin_ = referenceTo(webkit_back_forward_list_get_back_item(history()));
 }
 
 WebKitBackForwardListItem* WayBack::target() const {
