@@ -75,34 +75,37 @@ std::vector<int> shares(const Arrangement& arrangement, const std::vector<Reques
   return result;
 }
 
-bool fills(const Arrangement& arrangement, Gtk::Widget& member) {
+/// Of what there is across the arrangement: what the member would like, or all of it.
+template <class Natural>
+int lengthAcross(const Arrangement& arrangement, Gtk::Widget& member, int available, Natural natural) {
   const bool isRow = arrangement.orientation == Orientation::HORIZONTAL;
-  return arrangement.alignment == Gtk::Align::FILL ||
-         member.compute_expand(isRow ? Orientation::VERTICAL : Orientation::HORIZONTAL);
+  const bool fills = arrangement.alignment == Gtk::Align::FILL ||
+                     member.compute_expand(isRow ? Orientation::VERTICAL : Orientation::HORIZONTAL);
+  return fills ? available : std::min(available, natural());
 }
 
 std::vector<int> widths(const Arrangement& arrangement, int available) {
   const int left = available - gaps(arrangement);
   if (arrangement.areWidthsEqual)
     return equalShares(arrangement.members.size(), left);
-  const auto requests = widthRequests(arrangement);
   if (arrangement.orientation == Orientation::HORIZONTAL)
-    return shares(arrangement, requests, left);
+    return shares(arrangement, widthRequests(arrangement), left);
   std::vector<int> result;
-  for (std::size_t i = 0; i < requests.size(); ++i)
-    result.push_back(fills(arrangement, *arrangement.members[i]) ? available
-                                                                 : std::min(available, requests[i].natural));
+  for (auto* member : arrangement.members)
+    result.push_back(
+        lengthAcross(arrangement, *member, available, [&] { return widthRequest(*member).natural; }));
   return result;
 }
 
 std::vector<int> heights(const Arrangement& arrangement, const std::vector<int>& widths, int available) {
-  const auto requests = heightRequests(arrangement, widths);
   if (arrangement.orientation == Orientation::VERTICAL)
-    return shares(arrangement, requests, available - gaps(arrangement));
+    return shares(arrangement, heightRequests(arrangement, widths), available - gaps(arrangement));
   std::vector<int> result;
-  for (std::size_t i = 0; i < requests.size(); ++i)
-    result.push_back(fills(arrangement, *arrangement.members[i]) ? available
-                                                                 : std::min(available, requests[i].natural));
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    auto& member = *arrangement.members[i];
+    result.push_back(lengthAcross(arrangement, member, available,
+                                  [&] { return heightRequest(member, widths[i]).natural; }));
+  }
   return result;
 }
 
