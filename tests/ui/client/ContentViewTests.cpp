@@ -81,11 +81,6 @@ class ContentViewTest : public ModelTest, protected tests::ContentWindow {
         titles.push_back(tests::texts(*row).front());
     return titles;
   }
-  /// The bubble or list that the page shows beside a field.
-  GtkPopover* popup() {
-    auto* child = gtk_widget_get_last_child(GTK_WIDGET(webView()));
-    return GTK_IS_POPOVER(child) && gtk_widget_get_mapped(child) ? GTK_POPOVER(child) : nullptr;
-  }
   /// Where on the window's surface a popup begins, and where the address ends.
   static double topOf(GtkPopover* popup) {
     double left = 0, top = 0;
@@ -539,8 +534,8 @@ TEST_F(ContentViewTest, AnAddressOfAMegabyteIsCutBeforeItIsLaidOut) {
 TEST_F(ContentViewTest, AMegabyteInABubbleBesideAFieldIsCutBeforeItIsLaidOut) {
   runScript("const field = document.createElement('input'); document.body.append(field);"
             "field.setCustomValidity('ä'.repeat(1e6)); field.reportValidity(); 0");
-  ASSERT_TRUE(tests::eventually([&] { return popup() != nullptr; }));
-  EXPECT_EQ(Glib::ustring(gtk_label_get_text(GTK_LABEL(gtk_popover_get_child(popup())))),
+  ASSERT_TRUE(tests::eventually([&] { return openPopup() != nullptr; }));
+  EXPECT_EQ(Glib::ustring(gtk_label_get_text(GTK_LABEL(gtk_popover_get_child(openPopup())))),
             Glib::ustring(500, gunichar{0xe4}) + "…");
 }
 
@@ -549,10 +544,10 @@ TEST_F(ContentViewTest, NoBubbleOfAPageLiesOverTheAddressField) {
             "field.setCustomValidity('https://elsewhere.example'); 0");
   for (const std::string top : {"-300", "-100", "0", "40"}) {
     runScript("field.blur(); 0");
-    ASSERT_TRUE(tests::eventually([&] { return popup() == nullptr; }));
+    ASSERT_TRUE(tests::eventually([&] { return openPopup() == nullptr; }));
     runScript("field.style.top = '" + top + "px'; field.reportValidity(); 0");
-    ASSERT_TRUE(tests::eventually([&] { return popup() != nullptr; })) << top;
-    EXPECT_GE(topOf(popup()), addressBottom()) << top;
+    ASSERT_TRUE(tests::eventually([&] { return openPopup() != nullptr; })) << top;
+    EXPECT_GE(topOf(openPopup()), addressBottom()) << top;
   }
 }
 

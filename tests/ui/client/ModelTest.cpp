@@ -82,6 +82,11 @@ void ModelTest::settle() {
     ;
 }
 
+GtkPopover* ModelTest::openPopup() const {
+  auto* popup = gtk_widget_get_last_child(GTK_WIDGET(webView()));
+  return GTK_IS_POPOVER(popup) && gtk_widget_get_mapped(popup) ? GTK_POPOVER(popup) : nullptr;
+}
+
 void ModelTest::spendTime() {
   using Clock = std::chrono::steady_clock;
   for (auto& [delay, watch] : watches_) {

@@ -52,6 +52,8 @@ class ModelTest : public ::testing::Test {
   void runScript(const std::string& script);
   /// The engine's own view behind the model's.
   WebKitWebView* webView() const { return WEBKIT_WEB_VIEW(model->webView().widget().gobj()); }
+  /// The bubble or list that the page has had opened, if any.
+  GtkPopover* openPopup() const;
   /// Lets the time of the owner's commands run, twenty times as fast.
   void spendTime();
   /// Lets everything that is under way in the page and in the main loop come to an end.

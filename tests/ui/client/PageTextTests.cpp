@@ -49,11 +49,6 @@ class PageTextTest : public ModelTest {
     show("/thing.html");
     tests::focusOn(page());
   }
-  /// The bubble or list that the page has had opened.
-  Gtk::Widget* openPopup() {
-    auto* popup = gtk_widget_get_last_child(GTK_WIDGET(webView()));
-    return GTK_IS_POPOVER(popup) && gtk_widget_get_mapped(popup) ? Glib::wrap(popup) : nullptr;
-  }
   /// One for which there is no room closes while it is drawn.
   Gtk::Widget& nextPopup() {
     const auto staysOpen = [&] {
@@ -63,7 +58,7 @@ class PageTextTest : public ModelTest {
     };
     if (!tests::eventually(staysOpen))
       throw std::runtime_error("nothing stayed open");
-    return *openPopup();
+    return *Glib::wrap(GTK_WIDGET(openPopup()));
   }
   Gtk::TreeView& nextList() { return *tests::all<Gtk::TreeView>(nextPopup()).at(0); }
   /// What the list has drawn last.
@@ -78,7 +73,7 @@ class PageTextTest : public ModelTest {
     tests::clickOn(page());
     auto& list = nextList();
     EXPECT_EQ(lastTextIn(list), cut);
-    EXPECT_LE(openPopup()->get_width(), page().get_width());
+    EXPECT_LE(gtk_widget_get_width(GTK_WIDGET(openPopup())), page().get_width());
     tests::clickOn(list);
     expectTitle(expectedTitle);
     EXPECT_THAT(silence.milliseconds(), Lt(bearable));
