@@ -4,6 +4,7 @@
 #include "brand/Typography.h"
 #include "brand/toolkitTheme.h"
 
+#include <algorithm>
 #include <array>
 #include <giomm/resource.h>
 #include <gtkmm/cssprovider.h>
@@ -78,10 +79,14 @@ std::string withRadius(std::string rules) {
   return rules;
 }
 
+void openResources() {
+  [[maybe_unused]] static const bool areOpen = (g_resources_register(quorvel_get_resource()), true);
+}
+
 } // namespace
 
 std::string handWrittenRules() {
-  g_resources_register(quorvel_get_resource());
+  openResources();
   const auto bytes = Gio::Resource::lookup_data_global("/com/quorvel/Desktop/quorvel.css");
   gsize size = 0;
   const auto* data = static_cast<const char*>(bytes->get_data(size));
@@ -92,13 +97,22 @@ std::string styleSheet() {
   return paletteRules() + typographyRules() + withRadius(handWrittenRules());
 }
 
+// Each further folder makes the toolkit read all of its symbols again, so this one comes once.
+void installSymbols() {
+  openResources();
+  const auto symbols = Gtk::IconTheme::get_for_display(Gdk::Display::get_default());
+  const std::string folder = "/com/quorvel/Desktop/icons";
+  if (const auto folders = symbols->get_resource_path(); std::ranges::find(folders, folder) == folders.end())
+    symbols->add_resource_path(folder);
+}
+
 void installStyle() {
   const auto display = Gdk::Display::get_default();
   keepToolkitDark();
   const auto provider = Gtk::CssProvider::create();
   provider->load_from_data(styleSheet());
   Gtk::StyleContext::add_provider_for_display(display, provider, GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
-  Gtk::IconTheme::get_for_display(display)->add_resource_path("/com/quorvel/Desktop/icons");
+  installSymbols();
 }
 
 } // namespace quorvel

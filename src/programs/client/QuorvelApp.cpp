@@ -31,7 +31,10 @@ About aboutClient() {
 
 } // namespace
 
-QuorvelApp::QuorvelApp() : Gtk::Application(identifier) {}
+QuorvelApp::QuorvelApp() : Gtk::Application(identifier) {
+  installSymbols();
+  unset_resource_base_path(); // where the toolkit would look for more symbols, and read them all again
+}
 
 QuorvelApp::~QuorvelApp() = default;
 

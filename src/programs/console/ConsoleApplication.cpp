@@ -32,7 +32,10 @@ Glib::RefPtr<ConsoleApplication> ConsoleApplication::create(Gio::Application::Fl
   return Glib::make_refptr_for_instance(new ConsoleApplication(flags));
 }
 
-ConsoleApplication::ConsoleApplication(Gio::Application::Flags flags) : Gtk::Application(identifier, flags) {}
+ConsoleApplication::ConsoleApplication(Gio::Application::Flags flags) : Gtk::Application(identifier, flags) {
+  installSymbols();
+  unset_resource_base_path(); // where the toolkit would look for more symbols, and read them all again
+}
 
 void ConsoleApplication::on_startup() {
   Gtk::Application::on_startup();

@@ -1,10 +1,12 @@
 #include "brand/QuorvelBrand.h"
+#include "brand/StyleSheet.h"
 #include "brand/symbol.h"
 #include "layout/stacks.h"
 #include "support/TestWindow.h"
 
 #include <array>
 #include <gmock/gmock.h>
+#include <gtkmm/icontheme.h>
 
 namespace quorvel {
 namespace {
@@ -185,6 +187,12 @@ TEST(Symbol, WithoutAWeightHasThatOfItsStyle) {
   const TestWindow window(*hstack(0, {heading, body}), 40);
   EXPECT_EQ(heading->get_icon_name().raw(), themeName("plus", 700));
   EXPECT_EQ(body->get_icon_name().raw(), themeName("plus", 400));
+}
+
+TEST(Symbol, HasAFolderThatIsNamedOnceHoweverOftenTheyAreInstalled) {
+  installSymbols();
+  const auto folders = Gtk::IconTheme::get_for_display(Gdk::Display::get_default())->get_resource_path();
+  EXPECT_EQ(std::ranges::count(folders, "/com/quorvel/Desktop/icons"), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Symbols, EverySymbol, ::testing::ValuesIn(names), [](const auto& symbol) {

@@ -13,6 +13,8 @@
 #include "support/TestWindow.h"
 #include "support/TextScale.h"
 
+#include <gtkmm/icontheme.h>
+
 namespace quorvel {
 namespace {
 
@@ -242,6 +244,13 @@ TEST_F(ConsoleApplicationTest, ShowsOneWindowOfItsName) {
     EXPECT_EQ(window().get_icon_name(), "com.quorvel.Console");
     EXPECT_NE(dynamic_cast<ConsoleColumns*>(window().get_child()), nullptr);
   });
+}
+
+// Each change of the folders makes the toolkit read all symbols again, while the window waits.
+TEST_F(ConsoleApplicationTest, ItsStartLeavesTheFoldersOfSymbolsAsTheyAre) {
+  const auto symbols = Gtk::IconTheme::get_for_display(Gdk::Display::get_default());
+  const auto before = symbols->get_resource_path();
+  visit([&] { EXPECT_EQ(symbols->get_resource_path(), before); });
 }
 
 TEST_F(ConsoleApplicationTest, ASecondLaunchPresentsTheWindowThatIsThere) {
