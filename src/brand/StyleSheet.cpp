@@ -21,7 +21,6 @@ struct Token {
   std::string_view name;
   Color color;
 };
-constexpr auto gradient = QuorvelBrand::windowGradient();
 constexpr std::array tokens{
     Token{"background", QuorvelBrand::background},
     Token{"paper", QuorvelBrand::paper},
@@ -37,9 +36,6 @@ constexpr std::array tokens{
     Token{"gold", QuorvelBrand::gold},
     Token{"line", QuorvelBrand::line},
     Token{"strongLine", QuorvelBrand::strongLine},
-    Token{"gradientStart", gradient[0]},
-    Token{"gradientMiddle", gradient[1]},
-    Token{"gradientEnd", gradient[2]},
     Token{"consoleSidebarTop", ViewColors::consoleSidebarTop},
     Token{"consoleSidebarBottom", ViewColors::consoleSidebarBottom},
     Token{"inspector", ViewColors::inspector},

@@ -25,7 +25,6 @@ ConsoleColumns::ConsoleColumns(WorkspaceStore& store, Preferences& preferences)
       detail_(*Gtk::make_managed<DetailView>(store, preferences)),
       // It does not scroll by itself, and a window may be lower than it.
       inspector_(*verticalScroller("Inspector", Gtk::make_managed<InspectorPanel>(store))) {
-  add_css_class("console-columns");
   for (auto* column : {&sidebar_, &detail_, &inspector_})
     append(*column);
 }
@@ -53,6 +52,11 @@ void ConsoleColumns::size_allocate_vfunc(int width, int height, int) {
   inspector_.set_child_visible(trailing > 0);
   if (trailing > 0)
     allocateFromLeadingEdge(inspector_, {width - trailing, 0, trailing, height}, width);
+}
+
+void ConsoleColumns::snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) {
+  gradient_.draw(*this, *snapshot);
+  Container::snapshot_vfunc(snapshot);
 }
 
 } // namespace quorvel

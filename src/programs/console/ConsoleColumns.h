@@ -2,6 +2,7 @@
 
 #include "layout/Container.h"
 #include "preferences/Preferences.h"
+#include "programs/console/WindowGradient.h"
 #include "workspace/WorkspaceStore.h"
 
 namespace quorvel {
@@ -19,6 +20,7 @@ class ConsoleColumns : public Container {
   void measure_vfunc(Gtk::Orientation orientation, int forSize, int& minimum, int& natural,
                      int& minimumBaseline, int& naturalBaseline) const override;
   void size_allocate_vfunc(int width, int height, int baseline) override;
+  void snapshot_vfunc(const Glib::RefPtr<Gtk::Snapshot>& snapshot) override;
 
  private:
   bool hasRoomForInspector(int width) const;
@@ -26,6 +28,7 @@ class ConsoleColumns : public Container {
   Gtk::Widget& sidebar_;
   Gtk::Widget& detail_;
   Gtk::Widget& inspector_;
+  WindowGradient gradient_;
 };
 
 } // namespace quorvel
