@@ -6,12 +6,13 @@
 // An action is measured from its call to the end of the frame that shows it. "work" is the processor time of
 // that, on this thread: what is left when the waiting for the frame clock is taken away.
 
+#include "percentile.h"
+
 #include "brand/StyleSheet.h"
 #include "preferences/Preferences.h"
 #include "programs/console/ConsoleColumns.h"
 #include "workspace/WorkspaceStore.h"
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
@@ -32,11 +33,6 @@ constexpr int rounds = 200, roundsOfSections = 25;
 struct Cost {
   double work, frame;
 };
-
-double percentile(std::vector<double> values, double part) {
-  std::sort(values.begin(), values.end());
-  return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1) + 0.5)];
-}
 
 void print(const char* workspace, const std::string& action, const std::vector<Cost>& costs) {
   std::vector<double> work, frame;

@@ -1,16 +1,18 @@
 // What choosing a row of the client costs until its request leaves, in turns with `load_uri()` of a bare
-// view.
+// view: of the client's view by itself, and of the whole client, which draws what has been chosen before it
+// answers the engine's question.
 //
 //   row-request LOG
 //
 // LOG is the stand-in service's log of requests.
+
+#include "percentile.h"
 
 #include "brand/StyleSheet.h"
 #include "client/ContentView.h"
 #include "client/DesktopBrowserModel.h"
 #include "startup/startToolkit.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <functional>
@@ -50,14 +52,15 @@ class Log {
   std::string line_; // as far as it has been written
 };
 
-void work(const std::function<bool()>& isDone) {
+/// Without a rest: nothing wakes the main loop when the service has written something.
+void runUntil(const std::function<bool()>& isDone) {
   while (!isDone())
     Glib::MainContext::get_default()->iteration(false);
 }
 
 void settle(WebKitWebView* view) {
-  work([view] { return !webkit_web_view_is_loading(view); });
-  work([end = g_get_monotonic_time() + rest] { return g_get_monotonic_time() > end; });
+  runUntil([view] { return !webkit_web_view_is_loading(view); });
+  runUntil([end = g_get_monotonic_time() + rest] { return g_get_monotonic_time() > end; });
 }
 
 /// In milliseconds.
@@ -66,14 +69,9 @@ double measure(Log& log, WebKitWebView* view, const std::function<void()>& load)
   const auto begin = g_get_monotonic_time();
   load();
   gint64 request = 0;
-  work([&] { return (request = log.next()) != 0; });
+  runUntil([&] { return (request = log.next()) != 0; });
   settle(view);
   return static_cast<double>(request - begin) / 1000;
-}
-
-double median(std::vector<double> values) {
-  std::ranges::sort(values);
-  return values[values.size() / 2];
 }
 
 void compare(Log& log, const char* subject, bool isWhole) {
@@ -98,17 +96,20 @@ void compare(Log& log, const char* subject, bool isWhole) {
     ofRow.push_back(row);
     ofEngine.push_back(engine);
   }
-  std::printf("%s %.2f ms, a bare view %.2f ms: %.2f (medians of %d in turns)\n", subject, median(ofRow),
-              median(ofEngine), median(ofRow) / median(ofEngine), rounds);
+  const double row = percentile(ofRow, 0.5), engine = percentile(ofEngine, 0.5);
+  std::printf("%s %.2f ms, a bare view %.2f ms: %.2f (medians of %d in turns)\n", subject, row, engine,
+              row / engine, rounds);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2 || !startToolkit({"com.quorvel.Desktop", "Quorvel", "row-request", ""})) {
+  if (argc != 2) {
     std::fputs("usage: row-request LOG\n", stderr);
     return 2;
   }
+  if (!startToolkit({"com.quorvel.Desktop", "Quorvel", "row-request", ""}))
+    return 1;
   const auto application = Gtk::Application::create("", Gio::Application::Flags::NON_UNIQUE);
   installStyle();
   setvbuf(stdout, nullptr, _IOLBF, 0);
